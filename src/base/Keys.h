@@ -38,6 +38,17 @@ inline constexpr std::uint64_t command = 0x100000;
 inline constexpr std::uint64_t deviceIndependentMask = 0xFFFF0000;
 } // namespace eventFlags
 
+// The hot-key mask of the modifiers that an event's flags hold; other flags are ignored.
+constexpr std::uint32_t hotKeyModifiersOf(std::uint64_t flags)
+{
+    std::uint32_t modifiers = 0;
+    modifiers |= (flags & eventFlags::command) != 0 ? hotKeyModifiers::command : 0U;
+    modifiers |= (flags & eventFlags::shift) != 0 ? hotKeyModifiers::shift : 0U;
+    modifiers |= (flags & eventFlags::option) != 0 ? hotKeyModifiers::option : 0U;
+    modifiers |= (flags & eventFlags::control) != 0 ? hotKeyModifiers::control : 0U;
+    return modifiers;
+}
+
 // One key-down as a platform reports it.
 struct KeyEvent {
     KeyCode keyCode = 0;

@@ -13,6 +13,12 @@ using NotificationObject = std::uintptr_t;
 
 inline constexpr NotificationObject noNotificationObject = 0;
 
+namespace notificationNames {
+inline constexpr std::string_view shortcutDidChange = "ShortcutDidChangeNotification";       // without object
+inline constexpr std::string_view preferencesWillClose = "preferencesWillCloseNotification"; // without object
+inline constexpr std::string_view windowWillClose = "NSWindowWillCloseNotification";         // the object is the window
+} // namespace notificationNames
+
 // Announcements between parts of the program that do not know each other.
 class NotificationCenter {
 public:

@@ -28,8 +28,8 @@ public:
     PreferencesUi& operator=(const PreferencesUi&) = delete;
     virtual ~PreferencesUi() = default;
 
-    // A window that is not shown yet, or null where it cannot be made. When it closes, its window-will-close
-    // notification and "preferencesWillCloseNotification" are posted.
+    // A window that is not shown yet, or null where it cannot be made. When the user closes it,
+    // notificationNames::windowWillClose and then notificationNames::preferencesWillClose are posted.
     virtual std::unique_ptr<PreferencesWindow> createWindow() = 0;
 };
 
