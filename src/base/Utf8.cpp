@@ -1,5 +1,7 @@
 #include "base/Utf8.h"
 
+#include <algorithm>
+
 #include <utf8proc.h>
 
 namespace quorvel {
@@ -24,6 +26,29 @@ void append(std::string& text, utf8proc_int32_t codePoint)
     utf8proc_uint8_t bytes[4];
     const auto length = utf8proc_encode_char(codePoint, bytes);
     text.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
+}
+
+bool isAlphanumeric(const Scalar& scalar)
+{
+    if (scalar.codePoint < 0) {
+        return false;
+    }
+    switch (utf8proc_category(scalar.codePoint)) {
+    case UTF8PROC_CATEGORY_LU:
+    case UTF8PROC_CATEGORY_LL:
+    case UTF8PROC_CATEGORY_LT:
+    case UTF8PROC_CATEGORY_LM:
+    case UTF8PROC_CATEGORY_LO:
+    case UTF8PROC_CATEGORY_MN:
+    case UTF8PROC_CATEGORY_MC:
+    case UTF8PROC_CATEGORY_ME:
+    case UTF8PROC_CATEGORY_ND:
+    case UTF8PROC_CATEGORY_NL:
+    case UTF8PROC_CATEGORY_NO:
+        return true;
+    default:
+        return false;
+    }
 }
 
 // The offset just behind the character that begins at `offset`.
@@ -88,6 +113,21 @@ bool isNumericCharacter(std::string_view character)
     }
     const auto category = utf8proc_category(scalar.codePoint);
     return category == UTF8PROC_CATEGORY_ND || category == UTF8PROC_CATEGORY_NL || category == UTF8PROC_CATEGORY_NO;
+}
+
+std::string_view trimmedToAlphanumerics(std::string_view text)
+{
+    std::size_t begin = text.size();
+    std::size_t end = text.size();
+    for (std::size_t offset = 0; offset < text.size();) {
+        const auto scalar = scalarAt(text, offset);
+        if (isAlphanumeric(scalar)) {
+            begin = std::min(begin, offset);
+            end = offset + scalar.length;
+        }
+        offset += scalar.length;
+    }
+    return text.substr(begin, end - begin);
 }
 
 std::string validUtf8(std::string_view text)

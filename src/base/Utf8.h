@@ -19,6 +19,9 @@ std::string upperCased(std::string_view text);
 // True when the character stands for a number: a digit of any script, or a sign such as "½" or "Ⅳ".
 bool isNumericCharacter(std::string_view character);
 
+// The text without what stands at its ends and is neither a letter, a mark nor a number of any script.
+std::string_view trimmedToAlphanumerics(std::string_view text);
+
 // The text with every invalid byte replaced by U+FFFD.
 std::string validUtf8(std::string_view text);
 
