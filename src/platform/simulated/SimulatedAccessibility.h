@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/Accessibility.h"
+#include "platform/simulated/SimulatedAxObserver.h"
+
+namespace quorvel {
+
+class Journal;
+class SimulatedElement;
+class SimulatedMainQueue;
+class SimulatedPermissions;
+class SimulatedWindow;
+class SimulatedWindowServer;
+
+class SimulatedAccessibility final : public Accessibility {
+public:
+    SimulatedAccessibility(Journal& journal, SimulatedMainQueue& mainQueue, SimulatedPermissions& permissions,
+                           SimulatedWindowServer& windowServer);
+    ~SimulatedAccessibility() override;
+
+    AxElementRef applicationElement(ProcessId process) override;
+    std::expected<AxValue, AxError> copyAttribute(const AxElementRef& element, std::string_view name) override;
+    std::expected<void, AxError> setAttribute(const AxElementRef& element, std::string_view name,
+                                              const AxValue& value) override;
+    std::expected<void, AxError> performAction(const AxElementRef& element, std::string_view name) override;
+    std::expected<ProcessId, AxError> processId(const AxElementRef& element) override;
+    std::expected<std::unique_ptr<AxObserver>, AxError>
+    createObserver(ProcessId process, std::function<void(std::string_view name)> callback) override;
+
+    AxElementRef elementOf(const SimulatedWindow& window) const;
+
+    void failObserverCreation(AxError error) { observerError = error; }
+    void behave() { observerError.reset(); }
+
+    // Tells the observers of the window, later.
+    void notify(const SimulatedWindow& window, std::string_view notification);
+    // Tells every delivering observer of the process, later, whatever it was told to watch.
+    void notifyUnasked(ProcessId process, std::string_view notification);
+
+private:
+    friend class SimulatedAxObserver;
+    using Registration = SimulatedAxObserver::Registration;
+
+    // The thing that a usable element names; both pointers are null for none.
+    struct Target {
+        SimulatedElement* element = nullptr;
+        SimulatedWindow* window = nullptr; // null for an application
+    };
+
+    std::expected<Target, AxError> resolve(const AxElementRef& element) const;
+    std::expected<AxValue, AxError> read(const Target& target, std::string_view name) const;
+    std::expected<AxValue, AxError> readApplication(ProcessId process, std::string_view name) const;
+    std::expected<void, AxError> write(SimulatedWindow& window, std::string_view name, const AxValue& value);
+
+    std::expected<void, AxError> addNotification(Registration& registration, const AxElementRef& element,
+                                                 std::string_view name);
+    std::expected<void, AxError> removeNotification(Registration& registration, const AxElementRef& element,
+                                                    std::string_view name);
+    void startDelivery(Registration& registration);
+
+    Journal& journal;
+    SimulatedMainQueue& mainQueue;
+    SimulatedPermissions& permissions;
+    SimulatedWindowServer& windowServer;
+    std::vector<std::weak_ptr<Registration>> observers;
+    std::optional<AxError> observerError;
+};
+
+} // namespace quorvel

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+#include <set>
+
+#include "platform/EventTaps.h"
+
+namespace quorvel {
+
+class Journal;
+class SimulatedEventTaps;
+
+class SimulatedEventTap final : public EventTap {
+public:
+    // What the event service keeps of a tap.
+    struct Registration {
+        EventTapDescription description;
+        EventTapCallback callback;
+        std::set<KeyCode> keysOfInterest;
+        bool hasSource = false;
+        bool isInRunLoop = false;
+        bool isEnabled = false;
+    };
+
+    SimulatedEventTap(Journal& journal, const SimulatedEventTaps& eventTaps,
+                      std::shared_ptr<Registration> registration);
+    ~SimulatedEventTap() override;
+
+    bool createRunLoopSource() override;
+    void addSourceToRunLoop() override;
+    void removeSourceFromRunLoop() override;
+    void setEnabled(bool enabled) override;
+    bool setKeysOfInterest(const std::set<KeyCode>& keyCodes) override;
+
+private:
+    Journal& journal;
+    const SimulatedEventTaps& eventTaps;
+    std::shared_ptr<Registration> registration;
+};
+
+} // namespace quorvel

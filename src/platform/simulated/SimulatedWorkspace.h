@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "platform/Workspace.h"
+
+namespace quorvel {
+
+class Journal;
+class SimulatedMainQueue;
+class SimulatedWindowServer;
+
+class SimulatedWorkspace final : public Workspace {
+public:
+    SimulatedWorkspace(Journal& journal, SimulatedMainQueue& mainQueue, SimulatedWindowServer& windowServer);
+
+    ProcessId ownProcess() const override;
+    std::optional<RunningApplication> frontmostApplication() override;
+    std::optional<RunningApplication> runningApplication(ProcessId process) override;
+    std::vector<RunningApplication> runningApplications() override;
+    void activate(ProcessId process) override;
+    void activateSelf() override;
+    bool open(std::string_view address) override;
+    void relaunch(std::function<void()> completion) override;
+    void terminate() override;
+
+    const std::vector<std::string>& openedAddresses() const { return opened; }
+    std::size_t terminationRequests() const { return terminations; }
+
+private:
+    std::optional<RunningApplication> find(ProcessId process) const;
+
+    Journal& journal;
+    SimulatedMainQueue& mainQueue;
+    SimulatedWindowServer& windowServer;
+    std::vector<std::string> opened;
+    std::size_t terminations = 0;
+};
+
+} // namespace quorvel
