@@ -13,17 +13,6 @@
 
 namespace quorvel {
 
-namespace {
-
-std::uint32_t hotKeyModifiersOf(std::uint64_t flags)
-{
-    const auto bit = [&](std::uint64_t flag, std::uint32_t modifier) { return (flags & flag) != 0 ? modifier : 0U; };
-    return bit(eventFlags::command, hotKeyModifiers::command) | bit(eventFlags::shift, hotKeyModifiers::shift) |
-           bit(eventFlags::option, hotKeyModifiers::option) | bit(eventFlags::control, hotKeyModifiers::control);
-}
-
-} // namespace
-
 void SimulatedKeyboard::hold(KeyCode keyCode, std::uint64_t flags, std::optional<std::string> characters)
 {
     auto text = characters ? *std::move(characters) : route.layout.typed(keyCode, flags);
