@@ -1,0 +1,72 @@
+#pragma once
+
+#include <bitset>
+#include <memory>
+#include <optional>
+#include <set>
+
+#include "base/Keys.h"
+#include "base/WeakGuard.h"
+#include "platform/EventTaps.h"
+#include "platform/ProcessId.h"
+#include "system/CapturedKey.h"
+
+namespace quorvel {
+
+class KeyCapturePanel;
+struct Platform;
+
+// Keeps chosen keys from the frontmost application and hands them to a mode: by an event tap or, where there is none,
+// by a panel that takes the focus for the duration of the mode and gives it back.
+//
+// A mode sets the keys and the handler, and clears the keys when it ends. Main thread only.
+class GlobalEventBlocker {
+public:
+    explicit GlobalEventBlocker(const Platform& platform);
+    GlobalEventBlocker(const GlobalEventBlocker&) = delete;
+    GlobalEventBlocker& operator=(const GlobalEventBlocker&) = delete;
+    ~GlobalEventBlocker();
+
+    // Creates and enables the event tap, if there is none. A failure is logged; the panel then stands in.
+    void start();
+
+    // Gives up the tap, hides the panel and gives the focus back. The blocked keys stay.
+    void stop();
+
+    // False also while the tap that exists was refused the keys of the running mode; the panel then stands in until
+    // the keys are cleared.
+    bool hasEventTap() const;
+
+    const std::set<KeyCode>& blockedKeyCodes() const;
+    void setBlockedKeyCodes(std::set<KeyCode> keyCodes);
+
+    // The tap's keys reach the handler in a later turn of the main queue, the panel's at once. Setting a handler, not
+    // taking it away with an empty one, shows the panel if there are keys to block and no tap.
+    void setOnBlockKey(CapturedKeyHandler handler);
+
+    // Shows the panel, unless it has the focus already, and remembers who had it.
+    void showKeyCapturePanel();
+
+    // Empties the set, hides the panel and gives the focus back.
+    void clearBlockedKeys();
+
+private:
+    TapDecision decide(const TapEvent& event);
+    bool blocks(KeyCode keyCode) const;
+    void deliver(const CapturedKey& key);
+    void announceBlockedKeys();
+    void hideKeyCapturePanel();
+
+    const Platform& platform;
+    std::unique_ptr<EventTap> eventTap;
+    bool hasRunLoopSource = false;
+    bool isTapRefusedKeys = false;
+    std::set<KeyCode> keyCodes;
+    std::bitset<256> fastKeyCodes; // the part of keyCodes that keyboards have; the tap decides by it in no time
+    std::unique_ptr<KeyCapturePanel> keyCapturePanel;
+    std::optional<ProcessId> previousApp;
+    CapturedKeyHandler onBlockKey;
+    WeakGuard weakly;
+};
+
+} // namespace quorvel

@@ -1,0 +1,24 @@
+#include "system/OverlayFrameView.h"
+
+#include <optional>
+
+#include "platform/SystemColors.h"
+
+namespace quorvel {
+
+OverlayFrameView::OverlayFrameView(const SystemColors& systemColors) : borderColor(systemColors.blue().withAlpha(0.9))
+{}
+
+DrawList OverlayFrameView::drawList(const Size& bounds) const
+{
+    const double inset = borderWidth / 2.0;
+    return {{RoundedRectCommand{
+        .rect = ViewRect{0.0, 0.0, bounds.width, bounds.height}.insetBy(inset, inset),
+        .cornerRadius = cornerRadius,
+        .fill = std::nullopt,
+        .stroke = Stroke{borderColor, borderWidth},
+        .shadow = glow ? Shadow{borderColor.withAlpha(0.6), 12.0} : Shadow{Color::clear(), 0.0},
+    }}};
+}
+
+} // namespace quorvel

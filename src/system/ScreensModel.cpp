@@ -1,0 +1,128 @@
+#include "system/ScreensModel.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/FatalError.h"
+#include "base/LogText.h"
+#include "platform/Log.h"
+#include "platform/Platform.h"
+#include "platform/Screens.h"
+
+namespace quorvel {
+
+namespace {
+
+// Turns the y axis over: what was measured from `top` downwards is then measured from 0 upwards, and the reverse.
+//
+//   AX    0 -+- - - - - - -   top      screen
+//            |   +---+  y
+//            |   |   |
+//            |   +---+        y' = top - y - height
+//       y    v                0
+template <class To, class From>
+Rect<To> flipped(const Rect<From>& rect, double top)
+{
+    return {rect.x, top - rect.y - rect.height, rect.width, rect.height};
+}
+
+template <class To, class From>
+Rect<To> flippedByPrimaryHeight(const Platform& platform, const Rect<From>& rect)
+{
+    const auto screens = platform.screens.screens();
+    return screens.empty() ? Rect<To>{rect.x, rect.y, rect.width, rect.height}
+                           : flipped<To>(rect, screens.front().frame.height);
+}
+
+ScreenRect unionOfFrames(const std::vector<Screen>& screens)
+{
+    auto globalFrame = ScreenRect::null();
+    for (const auto& screen : screens) {
+        globalFrame = globalFrame.unitedWith(screen.frame);
+    }
+    return globalFrame;
+}
+
+} // namespace
+
+ScreensModel::ScreensModel(const Platform& platform, std::shared_ptr<CurrentScreen> current)
+    : platform(&platform), current(std::move(current))
+{}
+
+const std::optional<Screen>& ScreensModel::currentScreen() const
+{
+    return current->screen;
+}
+
+bool ScreensModel::selectScreenForWindowRect(const AxRect& rect)
+{
+    auto& log = platform->log;
+    log.line("windowRect: " + logText(rect));
+    const auto screens = platform->screens.screens();
+    if (screens.empty()) {
+        return false;
+    }
+    // By the top of all screens, not by the primary's height as elsewhere: the two differ where a screen stands higher
+    // than the primary one.
+    const auto normalizedRect = flipped<ScreenSpace>(rect, unionOfFrames(screens).maxY());
+
+    const Screen* best = nullptr;
+    double bestArea = 0.0;
+    for (const auto& screen : screens) {
+        log.line("normalizedWindowRect: " + logText(normalizedRect));
+        log.line("screenFrame (global): " + logText(screen.frame));
+        const auto intersection = normalizedRect.intersectionWith(screen.frame);
+        log.line("intersection: " + logText(intersection));
+        if (intersection.area() > bestArea) {
+            best = &screen;
+            bestArea = intersection.area();
+        }
+    }
+    if (best == nullptr) {
+        return false;
+    }
+    log.line("intersection!");
+    current->screen = *best;
+    return true;
+}
+
+std::optional<ScreensModel> ScreensModel::nextScreen()
+{
+    return step(Direction::next);
+}
+
+std::optional<ScreensModel> ScreensModel::previousScreen()
+{
+    return step(Direction::previous);
+}
+
+std::optional<ScreensModel> ScreensModel::step(Direction direction)
+{
+    if (!current->screen) {
+        return std::nullopt;
+    }
+    const auto screens = platform->screens.screens();
+    const auto found =
+        std::ranges::find_if(screens, [this](const Screen& screen) { return screen.isSameScreenAs(*current->screen); });
+    if (found == screens.end()) {
+        fatalError("The current screen is no longer attached");
+    }
+    const auto index = static_cast<std::size_t>(found - screens.begin());
+    const auto count = screens.size();
+    current->screen = screens[(direction == Direction::next ? index + 1 : index + count - 1) % count];
+    return ScreensModel(*platform, current);
+}
+
+ScreenRect ScreensModel::appKitRectFromAccessibility(const Platform& platform, const AxRect& rect)
+{
+    return flippedByPrimaryHeight<ScreenSpace>(platform, rect);
+}
+
+AxRect ScreensModel::accessibilityRectFromAppKit(const Platform& platform, const ScreenRect& rect)
+{
+    return flippedByPrimaryHeight<AxSpace>(platform, rect);
+}
+
+} // namespace quorvel
