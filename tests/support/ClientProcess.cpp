@@ -1,0 +1,78 @@
+#include "support/ClientProcess.h"
+
+#include <algorithm>
+
+#include "support/Patience.h"
+
+namespace quorvel::xtest {
+namespace {
+
+std::vector<std::string> wordsFor(ClientProcess::Kind kind, const std::string& title)
+{
+    switch (kind) {
+    case ClientProcess::Kind::Xterm:
+        return {"xterm", "-geometry", "80x24", "-title", title, "-e", "cat"};
+    case ClientProcess::Kind::Mousepad:
+        return {"mousepad", "--disable-server"};
+    case ClientProcess::Kind::Qt:
+        return {QUORVEL_QT_CLIENT, title};
+    case ClientProcess::Kind::Plain:
+        return {QUORVEL_PLAIN_CLIENT, title};
+    }
+    throw HarnessError("unknown kind of client");
+}
+
+} // namespace
+
+ClientProcess::ClientProcess(const XServer& server, XClient& client, Kind kind, const std::string& title)
+    : client(client)
+{
+    const auto before = client.managedWindows();
+    child = std::make_unique<ChildProcess>(Command{wordsFor(kind, title), server.clientEnvironment(), {}});
+    client.waitFor("the window of " + nameOf(kind), [&] {
+        for (const xcb_window_t window : client.managedWindows()) {
+            if (std::ranges::count(before, window) == 0 && client.processOf(window) == child->id() &&
+                client.isViewable(window)) {
+                windowId = window;
+                return true;
+            }
+        }
+        return false;
+    });
+}
+
+ClientProcess::~ClientProcess() = default;
+
+bool ClientProcess::isInstalled(Kind kind)
+{
+    return findProgram(wordsFor(kind, "").front()).has_value();
+}
+
+const std::vector<ClientProcess::Kind>& ClientProcess::allKinds()
+{
+    static const std::vector<Kind> all = {Kind::Xterm, Kind::Mousepad, Kind::Qt, Kind::Plain};
+    return all;
+}
+
+std::string ClientProcess::nameOf(Kind kind)
+{
+    switch (kind) {
+    case Kind::Xterm:
+        return "xterm";
+    case Kind::Mousepad:
+        return "mousepad";
+    case Kind::Qt:
+        return "qt";
+    case Kind::Plain:
+        return "plain";
+    }
+    throw HarnessError("unknown kind of client");
+}
+
+void ClientProcess::kill()
+{
+    child->kill();
+    client.waitFor("a client's window to be gone", [this] { return !client.exists(windowId); });
+}
+
+} // namespace quorvel::xtest

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+
+#include "support/Grabs.h"
+#include "support/KeyInjector.h"
+#include "support/Monitors.h"
+#include "support/WindowManagerProcess.h"
+#include "support/XClient.h"
+#include "support/XServer.h"
+
+namespace quorvel::xtest {
+
+// A display with what nearly every test needs: the server, a watching connection, a keyboard, monitors.
+class TestDisplay {
+public:
+    TestDisplay() : TestDisplay(XServer::Options()) {}
+    explicit TestDisplay(const XServer::Options& options) : server(options) {}
+
+    // Starts the window manager; one at a time.
+    WindowManagerProcess& startWindowManager(WindowManager manager)
+    {
+        windowManager = std::make_unique<WindowManagerProcess>(server, client, manager);
+        return *windowManager;
+    }
+
+    XServer server;
+    XClient client{server};
+    KeyInjector keyboard{client};
+    Monitors monitors{client};
+    Grabs grabs{client};
+
+private:
+    std::unique_ptr<WindowManagerProcess> windowManager;
+};
+
+} // namespace quorvel::xtest
