@@ -28,8 +28,9 @@ public:
     // All displays, the primary one first; its frame's origin is (0, 0). May be empty.
     //
     // X11: `frame` is the monitor without what panels reserve at its left, right and bottom, `visibleFrame` is that
-    // without what they reserve at its top. Screen coordinates are y' = H - y - height over root coordinates, with
-    // H such that the flip by the first frame's height leads back to root coordinates.
+    // without what they reserve at its top. Accessibility coordinates begin at the top of the topmost monitor, and the
+    // flip by the first frame's height leads from them to screen coordinates; so the first frame's origin need not be
+    // (0, 0).
     virtual std::vector<Screen> screens() = 0;
 
     // The display with the keyboard focus, if any.

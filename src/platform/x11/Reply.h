@@ -64,6 +64,8 @@ public:
         return Reply<Value>(source != nullptr ? function(source, cookie, nullptr) : nullptr);
     }
 
+    bool isPending() const { return connection != nullptr; }
+
 private:
     void discard()
     {

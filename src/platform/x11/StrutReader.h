@@ -1,0 +1,38 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+#include "base/Geometry.h"
+#include "base/Subscription.h"
+#include "platform/x11/MonitorLayout.h"
+
+namespace quorvel::x11 {
+
+class Connection;
+class RootProperties;
+
+// Finds what panels reserve. Some panels are clients that the window manager lists, some are its own windows, which it
+// does not list; these are children of the root. Listed clients may be children of a frame.
+class StrutReader {
+public:
+    StrutReader(Connection& connection, RootProperties& rootProperties);
+
+    // The struts of all panels that can be seen. `root` in pixels. From now on the connection delivers changes of
+    // these panels and of all other docks.
+    std::vector<Strut> read(Size root);
+
+    // Whether the last reading found the window to be a panel or a dock.
+    bool isPanel(xcb_window_t window) const { return panels.contains(window); }
+
+private:
+    std::vector<xcb_window_t> candidates();
+
+    Connection& connection;
+    RootProperties& rootProperties;
+    std::map<xcb_window_t, Subscription> panels;
+};
+
+} // namespace quorvel::x11
