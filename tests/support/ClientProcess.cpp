@@ -10,13 +10,13 @@ namespace {
 std::vector<std::string> wordsFor(ClientProcess::Kind kind, const std::string& title)
 {
     switch (kind) {
-    case ClientProcess::Kind::Xterm:
+    case ClientProcess::Kind::xterm:
         return {"xterm", "-geometry", "80x24", "-title", title, "-e", "cat"};
-    case ClientProcess::Kind::Mousepad:
+    case ClientProcess::Kind::mousepad:
         return {"mousepad", "--disable-server"};
-    case ClientProcess::Kind::Qt:
+    case ClientProcess::Kind::qt:
         return {QUORVEL_QT_CLIENT, title};
-    case ClientProcess::Kind::Plain:
+    case ClientProcess::Kind::plain:
         return {QUORVEL_PLAIN_CLIENT, title};
     }
     throw HarnessError("unknown kind of client");
@@ -50,20 +50,20 @@ bool ClientProcess::isInstalled(Kind kind)
 
 const std::vector<ClientProcess::Kind>& ClientProcess::allKinds()
 {
-    static const std::vector<Kind> all = {Kind::Xterm, Kind::Mousepad, Kind::Qt, Kind::Plain};
+    static const std::vector<Kind> all = {Kind::xterm, Kind::mousepad, Kind::qt, Kind::plain};
     return all;
 }
 
 std::string ClientProcess::nameOf(Kind kind)
 {
     switch (kind) {
-    case Kind::Xterm:
+    case Kind::xterm:
         return "xterm";
-    case Kind::Mousepad:
+    case Kind::mousepad:
         return "mousepad";
-    case Kind::Qt:
+    case Kind::qt:
         return "qt";
-    case Kind::Plain:
+    case Kind::plain:
         return "plain";
     }
     throw HarnessError("unknown kind of client");

@@ -14,10 +14,10 @@ namespace quorvel::xtest {
 class ClientProcess {
 public:
     enum class Kind {
-        Xterm,    // sizes in steps of a character cell
-        Mousepad, // GTK 3
-        Qt,       // a small Qt 6 window of this library; its window gravity is static
-        Plain,    // a bare window of this library in a process of its own; the quickest
+        xterm,    // sizes in steps of a character cell
+        mousepad, // GTK 3
+        qt,       // a small Qt 6 window of this library; its window gravity is static
+        plain,    // a bare window of this library in a process of its own; the quickest
     };
 
     // Starts the program and waits until its window is visible and in the window manager's list. The title is honoured

@@ -8,16 +8,16 @@ std::uint16_t maskOf(const std::vector<KeyInjector::Modifier>& modifiers)
     unsigned mask = 0;
     for (const auto modifier : modifiers) {
         switch (modifier) {
-        case KeyInjector::Modifier::Command:
+        case KeyInjector::Modifier::command:
             mask |= XCB_MOD_MASK_4;
             break;
-        case KeyInjector::Modifier::Option:
+        case KeyInjector::Modifier::option:
             mask |= XCB_MOD_MASK_1;
             break;
-        case KeyInjector::Modifier::Control:
+        case KeyInjector::Modifier::control:
             mask |= XCB_MOD_MASK_CONTROL;
             break;
-        case KeyInjector::Modifier::Shift:
+        case KeyInjector::Modifier::shift:
             mask |= XCB_MOD_MASK_SHIFT;
             break;
         }

@@ -34,10 +34,10 @@ TEST(XtestServer, AVanishedServerEndsAWait)
 
 TEST(XtestServer, TheDummyServerHasOutputs)
 {
-    if (!XServer::isAvailable(XServer::Kind::Dummy)) {
+    if (!XServer::isAvailable(XServer::Kind::dummyOutputs)) {
         GTEST_SKIP() << "needs root and the dummy video driver";
     }
-    TestDisplay display({.kind = XServer::Kind::Dummy});
+    TestDisplay display({.kind = XServer::Kind::dummyOutputs});
     EXPECT_EQ(display.client.screen().width_in_pixels, 1920);
 }
 
@@ -60,12 +60,12 @@ TEST(XtestMonitors, EveryArrangementIsListedAsAsked)
 TEST(XtestKeys, TypedKeysReachTheFocusedWindowWithTheirModifiers)
 {
     TestDisplay display;
-    display.startWindowManager(WindowManager::Openbox);
+    display.startWindowManager(WindowManager::openbox);
     TestWindow window(display.server, {});
     window.map();
     display.client.waitFor("focus", [&] { return display.client.activeWindow() == window.id(); });
     const auto code = display.keyboard.codeOf(XKB_KEY_k);
-    display.keyboard.tap({Modifier::Control, Modifier::Shift}, XKB_KEY_k);
+    display.keyboard.tap({Modifier::control, Modifier::shift}, XKB_KEY_k);
     window.waitForPress(code);
     const auto& keys = window.keys();
     const auto press =
@@ -77,7 +77,7 @@ TEST(XtestGrabs, AGrabbedCombinationAndAGrabbedKeyboardAreNoticed)
 {
     TestDisplay display;
     XClient other(display.server);
-    const KeyCombination combination{{Modifier::Command, Modifier::Shift}, XKB_KEY_o};
+    const KeyCombination combination{{Modifier::command, Modifier::shift}, XKB_KEY_o};
     EXPECT_TRUE(display.grabs.isFree(combination));
     EXPECT_TRUE(display.grabs.isKeyboardFree());
 
@@ -97,8 +97,8 @@ TEST(XtestGrabs, AGrabbedCombinationAndAGrabbedKeyboardAreNoticed)
 TEST(XtestPanel, AWindowManagerKeepsMaximizedWindowsOffAPanel)
 {
     TestDisplay display;
-    display.startWindowManager(WindowManager::Openbox);
-    const StrutPanel panel(display.server, {0, 0, 1920, 1080}, Side::Bottom, 40);
+    display.startWindowManager(WindowManager::openbox);
+    const StrutPanel panel(display.server, {0, 0, 1920, 1080}, Side::bottom, 40);
     display.client.waitFor("the work area to shrink", [&] {
         const auto area = display.client.property(display.client.root(), "_NET_WORKAREA");
         return area.size() >= 4 && area[3] == 1040;

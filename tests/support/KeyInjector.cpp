@@ -16,13 +16,13 @@ namespace {
 xcb_keysym_t keysymOf(KeyInjector::Modifier modifier)
 {
     switch (modifier) {
-    case KeyInjector::Modifier::Command:
+    case KeyInjector::Modifier::command:
         return XKB_KEY_Super_L;
-    case KeyInjector::Modifier::Option:
+    case KeyInjector::Modifier::option:
         return XKB_KEY_Alt_L;
-    case KeyInjector::Modifier::Control:
+    case KeyInjector::Modifier::control:
         return XKB_KEY_Control_L;
-    case KeyInjector::Modifier::Shift:
+    case KeyInjector::Modifier::shift:
         return XKB_KEY_Shift_L;
     }
     throw HarnessError("unknown modifier");

@@ -14,7 +14,7 @@ namespace quorvel::xtest {
 // modifiers up.
 class KeyInjector {
 public:
-    enum class Modifier { Command, Option, Control, Shift };
+    enum class Modifier { command, option, control, shift };
 
     explicit KeyInjector(XClient& client);
 

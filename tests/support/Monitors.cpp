@@ -53,8 +53,8 @@ void setMonitor(XClient& client, SetMonitorRequest request, const std::string& n
 
 const std::vector<MonitorArrangement>& monitorArrangements()
 {
-    constexpr auto primary = MonitorRole::Primary;
-    constexpr auto secondary = MonitorRole::Secondary;
+    constexpr auto primary = MonitorRole::primary;
+    constexpr auto secondary = MonitorRole::secondary;
     static const std::vector<MonitorArrangement> all = {
         {"One", {{"A", {0, 0, 1920, 1080}, primary}}},
         {"SideBySide", {{"A", {0, 0, 1280, 1024}, primary}, {"B", {1280, 0, 1280, 1024}, secondary}}},
@@ -93,7 +93,7 @@ void Monitors::arrange(const std::vector<Monitor>& monitors)
             request.output = outputs.front();
         }
         request.monitor.name = client.atom(monitor.name);
-        request.monitor.primary = monitor.role == MonitorRole::Primary ? 1 : 0;
+        request.monitor.primary = monitor.role == MonitorRole::primary ? 1 : 0;
         request.monitor.x = static_cast<std::int16_t>(monitor.rect.x);
         request.monitor.y = static_cast<std::int16_t>(monitor.rect.y);
         request.monitor.width = static_cast<std::uint16_t>(monitor.rect.width);
@@ -117,7 +117,7 @@ std::vector<Monitor> Monitors::current()
          xcb_randr_monitor_info_next(&it)) {
         monitors.push_back({client.atomName(it.data->name),
                             {it.data->x, it.data->y, it.data->width, it.data->height},
-                            it.data->primary != 0 ? MonitorRole::Primary : MonitorRole::Secondary});
+                            it.data->primary != 0 ? MonitorRole::primary : MonitorRole::secondary});
     }
     return monitors;
 }

@@ -8,12 +8,12 @@
 
 namespace quorvel::xtest {
 
-enum class MonitorRole { Primary, Secondary };
+enum class MonitorRole { primary, secondary };
 
 struct Monitor {
     std::string name;
     PixelRect rect;
-    MonitorRole role = MonitorRole::Secondary;
+    MonitorRole role = MonitorRole::secondary;
 };
 
 // A named arrangement; its monitors fit a root of 3840 by 2400.

@@ -6,13 +6,13 @@ namespace {
 PixelRect panelRect(const PixelRect& monitor, Side side, int thickness)
 {
     switch (side) {
-    case Side::Left:
+    case Side::left:
         return {monitor.x, monitor.y, thickness, monitor.height};
-    case Side::Right:
+    case Side::right:
         return {monitor.x + monitor.width - thickness, monitor.y, thickness, monitor.height};
-    case Side::Top:
+    case Side::top:
         return {monitor.x, monitor.y, monitor.width, thickness};
-    case Side::Bottom:
+    case Side::bottom:
         return {monitor.x, monitor.y + monitor.height - thickness, monitor.width, thickness};
     }
     return {};
@@ -47,21 +47,21 @@ StrutPanel::StrutPanel(const XServer& server, const PixelRect& monitor, Side sid
     const int rootWidth = client.screen().width_in_pixels;
     const int rootHeight = client.screen().height_in_pixels;
     switch (side) {
-    case Side::Left:
+    case Side::left:
         set(0, place.x + place.width, place.y, place.height);
         break;
-    case Side::Right:
+    case Side::right:
         set(1, rootWidth - place.x, place.y, place.height);
         break;
-    case Side::Top:
+    case Side::top:
         set(2, place.y + place.height, place.x, place.width);
         break;
-    case Side::Bottom:
+    case Side::bottom:
         set(3, rootHeight - place.y, place.x, place.width);
         break;
     }
     client.setProperty(window.id(), "_NET_WM_STRUT", XCB_ATOM_CARDINAL, {strut.begin(), strut.begin() + 4});
-    if (reservation == Reservation::Partial) {
+    if (reservation == Reservation::partial) {
         client.setProperty(window.id(), "_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, strut);
     }
     window.map();

@@ -29,19 +29,19 @@ struct Description {
 Description describe(WindowManager manager)
 {
     switch (manager) {
-    case WindowManager::Openbox:
+    case WindowManager::openbox:
         return {"openbox", "openbox", {"openbox", "--sm-disable"}};
-    case WindowManager::Metacity:
+    case WindowManager::metacity:
         return {"metacity", "metacity", {"metacity", "--sm-disable", "--no-composite"}};
-    case WindowManager::Xfwm4: // keeps its settings in a service on the session bus
+    case WindowManager::xfwm4: // keeps its settings in a service on the session bus
         return {"xfwm4", "xfwm4", {"dbus-run-session", "--", "xfwm4", "--compositor=off"}};
-    case WindowManager::Icewm:
+    case WindowManager::icewm:
         return {"icewm", "icewm", {"icewm"}};
-    case WindowManager::Fluxbox:
+    case WindowManager::fluxbox:
         return {"fluxbox", "fluxbox", {"fluxbox"}};
-    case WindowManager::I3:
+    case WindowManager::i3:
         return {"i3", "i3", {"i3"}};
-    case WindowManager::Kwin: // its shortcuts live in a service on the session bus
+    case WindowManager::kwin: // its shortcuts live in a service on the session bus
         return {"kwin", "kwin_x11", {"dbus-run-session", "--", "kwin_x11"}};
     }
     throw HarnessError("unknown window manager");
@@ -50,23 +50,23 @@ Description describe(WindowManager manager)
 void writeConfiguration(WindowManager manager, const TemporaryDirectory& home)
 {
     switch (manager) {
-    case WindowManager::Icewm:
+    case WindowManager::icewm:
         // Otherwise it takes the Super key for itself, and no other client ever sees a combination with it.
         home.write(".icewm/preferences", "Win95Keys=0\n");
         break;
-    case WindowManager::Fluxbox:
+    case WindowManager::fluxbox:
         home.write(".fluxbox/keys", "OnTitlebar Mouse1 :StartMoving\n");
         home.write(".fluxbox/init", "session.screen0.rootCommand: true\nsession.styleOverlay: /dev/null\n");
         break;
-    case WindowManager::I3:
+    case WindowManager::i3:
         home.write(".config/i3/config", i3Configuration);
         break;
-    case WindowManager::Kwin:
+    case WindowManager::kwin:
         home.write(".config/kwinrc", kwinConfiguration);
         break;
-    case WindowManager::Openbox:
-    case WindowManager::Metacity:
-    case WindowManager::Xfwm4:
+    case WindowManager::openbox:
+    case WindowManager::metacity:
+    case WindowManager::xfwm4:
         break;
     }
 }
@@ -76,8 +76,8 @@ void writeConfiguration(WindowManager manager, const TemporaryDirectory& home)
 const std::vector<WindowManager>& allWindowManagers()
 {
     static const std::vector<WindowManager> all = {
-        WindowManager::Openbox, WindowManager::Metacity, WindowManager::Xfwm4, WindowManager::Icewm,
-        WindowManager::Fluxbox, WindowManager::I3,       WindowManager::Kwin};
+        WindowManager::openbox, WindowManager::metacity, WindowManager::xfwm4, WindowManager::icewm,
+        WindowManager::fluxbox, WindowManager::i3,       WindowManager::kwin};
     return all;
 }
 

@@ -10,7 +10,7 @@
 
 namespace quorvel::xtest {
 
-enum class WindowManager { Openbox, Metacity, Xfwm4, Icewm, Fluxbox, I3, Kwin };
+enum class WindowManager { openbox, metacity, xfwm4, icewm, fluxbox, i3, kwin };
 
 // Each window manager in the order above, for parameterised tests.
 const std::vector<WindowManager>& allWindowManagers();

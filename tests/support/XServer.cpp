@@ -76,7 +76,7 @@ XServer::XServer(const Options& options) : options(options)
     command.descriptor = writing.get();
     const char* path = std::getenv("PATH");
     command.environment = {{"PATH", path != nullptr ? path : "/usr/bin:/bin"}, {"HOME", homeDirectory.path().string()}};
-    if (options.kind == Kind::Virtual) {
+    if (options.kind == Kind::virtualOutput) {
         // Without -noreset the server forgets its monitors when the last client leaves.
         command.words = {"Xvfb",
                          "-displayfd",
@@ -122,7 +122,7 @@ XServer::~XServer()
 
 bool XServer::isAvailable(Kind kind)
 {
-    if (kind == Kind::Virtual) {
+    if (kind == Kind::virtualOutput) {
         return findProgram("Xvfb").has_value();
     }
     return geteuid() == 0 && findProgram("Xorg").has_value() &&

@@ -14,12 +14,13 @@ namespace quorvel::xtest {
 class XServer {
 public:
     enum class Kind {
-        Virtual, // Xvfb: one output, starts in a moment
-        Dummy,   // Xorg with the dummy driver: outputs DUMMY0 to DUMMY15 that can be plugged in and out; needs root
+        virtualOutput, // Xvfb: one output, starts in a moment
+        dummyOutputs,  // Xorg with the dummy driver: outputs DUMMY0 to DUMMY15 that can be plugged in and out; needs
+                       // root
     };
 
     struct Options {
-        Kind kind = Kind::Virtual;
+        Kind kind = Kind::virtualOutput;
         int width = 1920;
         int height = 1080;
     };
