@@ -1,0 +1,150 @@
+#include "platform/x11/painting/Painter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <variant>
+
+#include "platform/x11/painting/CairoHandles.h"
+#include "platform/x11/painting/RoundedPath.h"
+#include "platform/x11/painting/ShadowMask.h"
+
+namespace quorvel::x11 {
+
+namespace {
+
+constexpr int bytesPerPixel = 4;
+
+void setSource(cairo_t* context, const Color& color)
+{
+    cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
+}
+
+// A text with its place: the origin of its baseline.
+struct PlacedText {
+    GObjectHandle<PangoLayout> layout;
+    double x = 0.0;
+    double baseline = 0.0;
+    double width = 0.0;
+};
+
+class ListPainter {
+public:
+    ListPainter(cairo_t* context, PixelSize size, const TextLayouts& layouts)
+        : context(context), size(size), layouts(layouts)
+    {}
+
+    void operator()(const RoundedRectCommand& command) const
+    {
+        if (command.shadow) {
+            paintShadow(*command.shadow, outerRect(command), [&](cairo_t* mask) { paintShape(mask, command); });
+        }
+        paintShape(context, command);
+    }
+
+    void operator()(const TextCommand& command) const
+    {
+        const auto text = place(command);
+        if (command.shadow) {
+            paintShadow(*command.shadow, inkRect(text), [&](cairo_t* mask) { paintText(mask, text, command.color); });
+        }
+        paintText(context, text, command.color);
+    }
+
+private:
+    static void paintShape(cairo_t* target, const RoundedRectCommand& command)
+    {
+        if (command.fill) {
+            addRoundedRectangle(target, command.rect, command.cornerRadius, command.cornerStyle);
+            setSource(target, *command.fill);
+            cairo_fill(target);
+        }
+        if (command.stroke && command.stroke->width > 0.0) {
+            addRoundedRectangle(target, command.rect, command.cornerRadius, command.cornerStyle);
+            setSource(target, command.stroke->color);
+            cairo_set_line_width(target, command.stroke->width);
+            cairo_stroke(target);
+        }
+    }
+
+    static void paintText(cairo_t* target, const PlacedText& text, const Color& color)
+    {
+        setSource(target, color);
+        cairo_move_to(target, text.x, text.baseline);
+        pango_cairo_show_layout_line(target, pango_layout_get_line_readonly(text.layout.get(), 0));
+    }
+
+    void paintShadow(const Shadow& shadow, const ViewRect& ink, const std::function<void(cairo_t*)>& paintInk) const
+    {
+        const ShadowMask mask(ink, size, shadow.blurRadius, paintInk);
+        setSource(context, shadow.color);
+        mask.paint(context);
+    }
+
+    PlacedText place(const TextCommand& command) const
+    {
+        PlacedText text{.layout = layouts.layout(command.text, command.font)};
+        auto* const layout = text.layout.get();
+        text.width = TextLayouts::width(layout);
+        if (text.width > command.box.width) {
+            pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_END);
+            pango_layout_set_width(layout, static_cast<int>(std::floor(command.box.width)) * PANGO_SCALE);
+            text.width = TextLayouts::width(layout);
+        }
+        const auto metrics = layouts.lineMetrics(command.font);
+        text.x = std::floor(leftEdge(command, text.width));
+        text.baseline = std::round(command.box.midY() + (metrics.ascent - metrics.descent) / 2.0);
+        return text;
+    }
+
+    static double leftEdge(const TextCommand& command, double width)
+    {
+        switch (command.alignment) {
+        case TextAlignment::leading:
+            return command.box.minX();
+        case TextAlignment::center:
+            return command.box.midX() - width / 2.0;
+        case TextAlignment::trailing:
+            return command.box.maxX() - width;
+        }
+        return command.box.minX();
+    }
+
+    static ViewRect outerRect(const RoundedRectCommand& command)
+    {
+        const double outside = command.stroke ? command.stroke->width / 2.0 : 0.0;
+        const auto& rect = command.rect;
+        return {rect.x - outside, rect.y - outside, rect.width + 2.0 * outside, rect.height + 2.0 * outside};
+    }
+
+    static ViewRect inkRect(const PlacedText& text)
+    {
+        PangoRectangle ink{};
+        pango_layout_line_get_pixel_extents(pango_layout_get_line_readonly(text.layout.get(), 0), &ink, nullptr);
+        return {text.x + ink.x, text.baseline + ink.y, static_cast<double>(ink.width), static_cast<double>(ink.height)};
+    }
+
+    cairo_t* context;
+    PixelSize size;
+    const TextLayouts& layouts;
+};
+
+} // namespace
+
+void Painter::paint(PixelImage& image, const DrawList& list) const
+{
+    if (image.size.width <= 0 || image.size.height <= 0) {
+        return;
+    }
+    auto* const bytes = reinterpret_cast<unsigned char*>(image.pixels.data());
+    const CairoSurface surface(cairo_image_surface_create_for_data(
+        bytes, CAIRO_FORMAT_ARGB32, image.size.width, image.size.height, image.size.width * bytesPerPixel));
+    const CairoContext context(cairo_create(surface.get()));
+    const ListPainter painter(context.get(), image.size, layouts);
+    for (const auto& command : list.commands) {
+        std::visit(painter, command);
+    }
+    cairo_surface_flush(surface.get());
+}
+
+} // namespace quorvel::x11
