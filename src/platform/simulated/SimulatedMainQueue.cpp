@@ -1,5 +1,7 @@
 #include "platform/simulated/SimulatedMainQueue.h"
 
+#include <algorithm>
+
 #include "base/FatalError.h"
 #include "platform/simulated/Journal.h"
 
@@ -80,22 +82,35 @@ void SimulatedMainQueue::drain()
 void SimulatedMainQueue::advance(Seconds duration)
 {
     const auto end = clock + duration;
-    const auto nextDue = [this] {
-        const std::lock_guard lock(mutex);
-        return pending.empty() ? Seconds::max() : pending.begin()->first.first;
-    };
     drain();
-    for (auto due = nextDue(); due <= end; due = nextDue()) {
-        clock = due;
+    for (auto due = nextDue(); due && *due <= end; due = nextDue()) {
+        clock = *due;
         drain();
     }
     clock = end;
+}
+
+bool SimulatedMainQueue::advanceToNext()
+{
+    const auto due = nextDue();
+    if (!due) {
+        return false;
+    }
+    clock = std::max(clock, *due);
+    turn();
+    return true;
 }
 
 std::size_t SimulatedMainQueue::pendingCount() const
 {
     const std::lock_guard lock(mutex);
     return pending.size();
+}
+
+std::optional<SimulatedMainQueue::Seconds> SimulatedMainQueue::nextDue() const
+{
+    const std::lock_guard lock(mutex);
+    return pending.empty() ? std::nullopt : std::optional(pending.begin()->first.first);
 }
 
 void SimulatedMainQueue::add(Seconds delay, std::function<void()> work)

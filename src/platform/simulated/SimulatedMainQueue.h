@@ -39,6 +39,9 @@ public:
     // Lets time pass, with everything that falls due on the way.
     void advance(Seconds duration);
 
+    // Lets time pass until the next work falls due, and runs what is due then; false if none waits.
+    bool advanceToNext();
+
     Seconds now() const { return clock; }
 
     // Work that waits, due or not.
@@ -47,6 +50,7 @@ public:
 private:
     using Key = std::pair<Seconds, std::uint64_t>; // when it is due, and the order of adding
 
+    std::optional<Seconds> nextDue() const;
     void add(Seconds delay, std::function<void()> work);
     std::optional<std::function<void()>> takeDue(std::uint64_t addedBefore);
     void runRepeatedly(Seconds interval, const std::shared_ptr<const std::function<void()>>& work,

@@ -1,0 +1,43 @@
+#pragma once
+
+namespace quorvel {
+
+class Accessibility;
+class Bundle;
+class EventMonitors;
+class EventTaps;
+class HotKeys;
+class KeyboardLayout;
+class MainQueue;
+class NotificationCenter;
+class OverlayWindows;
+class Screens;
+class StatusBar;
+class TextMetrics;
+class UserDefaults;
+class WindowList;
+class Workspace;
+
+namespace contract {
+
+// The ports under test. One may be null only where its suite is not linked.
+struct ContractPorts {
+    MainQueue* mainQueue = nullptr;
+    UserDefaults* userDefaults = nullptr;
+    NotificationCenter* notificationCenter = nullptr;
+    Bundle* bundle = nullptr;
+    Accessibility* accessibility = nullptr;
+    HotKeys* hotKeys = nullptr;
+    EventTaps* eventTaps = nullptr;
+    WindowList* windowList = nullptr;
+    Workspace* workspace = nullptr;
+    Screens* screens = nullptr;
+    KeyboardLayout* keyboardLayout = nullptr;
+    EventMonitors* eventMonitors = nullptr;
+    OverlayWindows* overlayWindows = nullptr;
+    TextMetrics* textMetrics = nullptr;
+    StatusBar* statusBar = nullptr;
+};
+
+} // namespace contract
+} // namespace quorvel

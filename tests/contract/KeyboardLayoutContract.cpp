@@ -1,0 +1,43 @@
+#include "contract/ContractTest.h"
+#include "platform/KeyboardLayout.h"
+
+namespace quorvel::contract {
+namespace {
+
+class KeyboardLayoutContract : public ContractTest {
+protected:
+    KeyboardLayout& layout = port(&ContractPorts::keyboardLayout);
+};
+
+TEST_F(KeyboardLayoutContract, AKeyTypesItsCharacterWithoutModifiers)
+{
+    EXPECT_EQ(layout.characters(0), "a");
+    EXPECT_EQ(layout.characters(46), "m");
+    EXPECT_EQ(layout.characters(18), "1");
+    EXPECT_EQ(layout.characters(41), ";");
+    EXPECT_EQ(layout.characters(50), "`");
+}
+
+TEST_F(KeyboardLayoutContract, HeldModifiersDoNotMatter)
+{
+    desktop->holdKey(11, eventFlags::shift);
+    desktop->settle();
+
+    EXPECT_EQ(layout.characters(0), "a");
+}
+
+TEST_F(KeyboardLayoutContract, AKeyThatTypesNothingHasNoCharacters)
+{
+    EXPECT_EQ(layout.characters(keyCodes::leftArrow), "");
+    EXPECT_EQ(layout.characters(keyCodes::upArrow), "");
+}
+
+TEST_F(KeyboardLayoutContract, AKeyThatDoesNotExistHasNoCharacters)
+{
+    EXPECT_EQ(layout.characters(200), "");
+    EXPECT_EQ(layout.characters(70000), "");
+    EXPECT_EQ(layout.characters(-1), "");
+}
+
+} // namespace
+} // namespace quorvel::contract
