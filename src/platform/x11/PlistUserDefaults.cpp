@@ -1,0 +1,141 @@
+#include "platform/x11/PlistUserDefaults.h"
+
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "platform/x11/PropertyList.h"
+
+namespace quorvel::x11 {
+
+PlistUserDefaults::PlistUserDefaults(SettingsFile file, Report report)
+    : file(std::move(file)), report(std::move(report))
+{
+    // The directory has to be there for changes in it to be noticed; where it cannot be made, the first write says so.
+    static_cast<void>(this->file.createDirectory());
+    read();
+    clearTheWay();
+    hasForeignChange = false;
+}
+
+std::optional<PropertyValue> PlistUserDefaults::object(std::string_view key) const
+{
+    const auto found = values.find(key);
+    return found == values.end() ? std::nullopt : propertyValue(found->second);
+}
+
+void PlistUserDefaults::setObject(std::string_view key, PropertyValue value)
+{
+    PlistNode node = plistNode(value);
+    const auto found = values.find(key);
+    if (found != values.end() && found->second == node && unsaved.empty()) {
+        return;
+    }
+    values.insert_or_assign(std::string(key), node);
+    unsaved.insert_or_assign(std::string(key), std::move(node));
+    save();
+}
+
+void PlistUserDefaults::removeObject(std::string_view key)
+{
+    const auto found = values.find(key);
+    if (found == values.end() && unsaved.empty()) {
+        return;
+    }
+    if (found != values.end()) {
+        values.erase(found);
+    }
+    unsaved.insert_or_assign(std::string(key), std::nullopt);
+    save();
+}
+
+bool PlistUserDefaults::reload()
+{
+    read();
+    if (state == FileState::damaged) {
+        reportOnce("is damaged; the settings in use stay", damage);
+    }
+    return std::exchange(hasForeignChange, false);
+}
+
+void PlistUserDefaults::read()
+{
+    auto contents = file.read();
+    state = contents ? FileState::usable : FileState::unreadable;
+    stamp.reset();
+    if (!contents) {
+        reportOnce("cannot be read and is left alone", contents.error());
+        return;
+    }
+    if (!*contents) {
+        return;
+    }
+    stamp = (*contents)->stamp;
+    auto dictionary = parsePropertyList((*contents)->bytes);
+    if (!dictionary) {
+        state = FileState::damaged;
+        damage = dictionary.error();
+        return;
+    }
+    adopt(std::move(*dictionary));
+}
+
+void PlistUserDefaults::adopt(PlistDictionary dictionary)
+{
+    for (const auto& [key, node] : unsaved) {
+        if (node) {
+            dictionary.insert_or_assign(key, *node);
+        } else {
+            dictionary.erase(key);
+        }
+    }
+    hasForeignChange = hasForeignChange || dictionary != values;
+    values = std::move(dictionary);
+}
+
+void PlistUserDefaults::save()
+{
+    if (!stamp || file.stamp() != stamp) {
+        read();
+    }
+    if (!clearTheWay()) {
+        return;
+    }
+    const auto written = file.replace(propertyListXml(values));
+    if (!written) {
+        reportOnce("cannot be written; changes hold for this run", written.error());
+        return;
+    }
+    stamp = *written;
+    unsaved.clear();
+    lastLine.clear();
+}
+
+// Whether the file may be replaced now.
+bool PlistUserDefaults::clearTheWay()
+{
+    if (state != FileState::damaged) {
+        return state == FileState::usable;
+    }
+    const auto aside = file.moveAside();
+    if (!aside) {
+        reportOnce("is damaged and cannot be moved aside", aside.error());
+        return false;
+    }
+    reportOnce(fmt::format("is damaged and was moved to {}", aside->string()), damage);
+    state = FileState::usable;
+    stamp.reset();
+    return true;
+}
+
+// A problem that lasts is told once, not at every value that is set.
+void PlistUserDefaults::reportOnce(std::string_view problem, std::string_view reason)
+{
+    auto line = fmt::format("The settings file {} {}: {}.", file.path().string(), problem, reason);
+    if (line != lastLine) {
+        report(line);
+        lastLine = std::move(line);
+    }
+}
+
+} // namespace quorvel::x11

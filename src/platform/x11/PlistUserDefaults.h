@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/UserDefaults.h"
+#include "platform/x11/PlistNode.h"
+#include "platform/x11/SettingsFile.h"
+
+namespace quorvel::x11 {
+
+// Settings in a property list file that other programs may change as well: people edit it, and a domain exported on a
+// Mac can be put in its place. Whatever this program does not know stays in the file as it is.
+//
+// A file that cannot be understood is never overwritten but moved aside, and one that cannot be read or written is left
+// alone; values that were set then hold for this run and are written as soon as that is possible again.
+class PlistUserDefaults final : public UserDefaults {
+public:
+    // Gets one line for people about each problem.
+    using Report = std::function<void(std::string_view line)>;
+
+    PlistUserDefaults(SettingsFile file, Report report);
+
+    std::optional<PropertyValue> object(std::string_view key) const override;
+    void setObject(std::string_view key, PropertyValue value) override;
+    void removeObject(std::string_view key) override;
+
+    // To be called when the file may have changed: reads it again. Tells whether another program changed a value since
+    // the last call. A file that has vanished or is damaged leaves the values as they are.
+    bool reload();
+
+private:
+    // The file on disk, as far as it decides whether it may be replaced.
+    enum class FileState { usable, damaged, unreadable };
+
+    void read();
+    void adopt(PlistDictionary dictionary);
+    void save();
+    bool clearTheWay();
+    void reportOnce(std::string_view problem, std::string_view reason);
+
+    SettingsFile file;
+    Report report;
+    PlistDictionary values;
+    std::map<std::string, std::optional<PlistNode>, std::less<>> unsaved; // nothing: to be removed
+    std::optional<FileStamp> stamp;                                       // of the file that `values` agrees with
+    FileState state = FileState::usable;
+    std::string damage; // what is wrong with a damaged file
+    std::string lastLine;
+    bool hasForeignChange = false;
+};
+
+} // namespace quorvel::x11

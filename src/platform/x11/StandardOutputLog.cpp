@@ -1,0 +1,16 @@
+#include "platform/x11/StandardOutputLog.h"
+
+#include <cstdio>
+#include <string>
+
+namespace quorvel::x11 {
+
+void StandardOutputLog::line(std::string_view text)
+{
+    std::string whole(text);
+    whole += '\n';
+    std::fwrite(whole.data(), 1, whole.size(), stdout);
+    std::fflush(stdout);
+}
+
+} // namespace quorvel::x11

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/KeyboardLayout.h"
+
+namespace quorvel::x11 {
+
+class Keyboard;
+
+class X11KeyboardLayout final : public KeyboardLayout {
+public:
+    explicit X11KeyboardLayout(const Keyboard& keyboard) : keyboard(keyboard) {}
+
+    std::string characters(KeyCode keyCode) override;
+
+private:
+    const Keyboard& keyboard;
+};
+
+} // namespace quorvel::x11
