@@ -85,7 +85,7 @@ public:
     virtual void releaseKey(KeyCode keyCode) = 0;
     void pressKey(KeyCode keyCode, std::uint64_t flags = 0);
 
-    // The key-downs that the window's program has received, in order.
+    // The key-downs that the window's program has received, in order; those of modifier keys do not count.
     virtual std::vector<KeyCode> keysReceivedBy(const ContractWindow& window) = 0;
 
     // Another program takes a hot key: a key code and a mask of hotKeyModifiers.

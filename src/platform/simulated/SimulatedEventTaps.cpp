@@ -1,6 +1,5 @@
 #include "platform/simulated/SimulatedEventTaps.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/simulated/Journal.h"
@@ -71,11 +70,6 @@ TapDecision SimulatedEventTaps::offer(TapEventType type, const KeyEvent& event)
         }
     }
     return TapDecision::pass;
-}
-
-bool SimulatedEventTaps::isAnyInterestedIn(KeyCode keyCode) const
-{
-    return std::ranges::any_of(current(), [&](const auto& tap) { return sees(*tap, TapEventType::keyDown, keyCode); });
 }
 
 void SimulatedEventTaps::send(TapEventType type, KeyCode keyCode)

@@ -38,7 +38,6 @@ public:
 
     // Shows the event to the taps, now. Drop as soon as one drops it.
     TapDecision offer(TapEventType type, const KeyEvent& event);
-    bool isAnyInterestedIn(KeyCode keyCode) const;
 
     // Shows the taps an event of whatever type, later. The types that tell of a disabling disable the taps first.
     void send(TapEventType type, KeyCode keyCode);

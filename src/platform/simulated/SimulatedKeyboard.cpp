@@ -58,14 +58,15 @@ SimulatedKeyboard::Owner SimulatedKeyboard::press(const KeyEvent& event)
     return Owner::focus;
 }
 
-// Auto-repeat of a hot key is no further press. A key that a tap took stays taken until it is released, also when the
-// tap has lost its interest meanwhile.
+// Auto-repeat of a hot key is no further press. Where taps see only the keys of their interest, a key that one took
+// stays taken until it is released, also when the tap has lost its interest meanwhile.
 void SimulatedKeyboard::press(const KeyEvent& event, Owner firstOwner)
 {
     if (firstOwner == Owner::hotKey || route.eventTaps.offer(TapEventType::keyDown, event) == TapDecision::drop) {
         return;
     }
-    if (firstOwner == Owner::focus) {
+    const bool decidesAnew = route.eventTaps.visibility == SimulatedEventTaps::Visibility::everyKey;
+    if (firstOwner == Owner::focus || decidesAnew) {
         deliverToFocus(event);
     }
 }

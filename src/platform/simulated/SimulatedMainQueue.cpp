@@ -116,7 +116,7 @@ std::optional<SimulatedMainQueue::Seconds> SimulatedMainQueue::nextDue() const
 void SimulatedMainQueue::add(Seconds delay, std::function<void()> work)
 {
     const std::lock_guard lock(mutex);
-    pending.emplace(Key{clock + delay, nextSequence++}, std::move(work));
+    pending.emplace(Key{clock + std::max(delay, Seconds(0.0)), nextSequence++}, std::move(work));
 }
 
 std::optional<std::function<void()>> SimulatedMainQueue::takeDue(std::uint64_t addedBefore)

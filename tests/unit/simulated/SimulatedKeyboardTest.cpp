@@ -112,5 +112,58 @@ TEST_F(SimulatedKeyboardTest, TheKeyPanelTakesKeysWhileThisProgramIsActive)
     EXPECT_EQ(editor.receivedKeys().size(), 1U);
 }
 
+TEST_F(SimulatedKeyboardTest, KeysTypeAsOnAUsKeyboardUnlessTheyAreToldOtherwise)
+{
+    desktop.keyboardLayout.setKey(16, {"z", "Z"});
+    desktop.keyboardLayout.makeDead(33);
+    desktop.press(18, eventFlags::shift);
+    desktop.press(16);
+    desktop.press(33);
+    desktop.press(0, 0, "é!");
+    desktop.drain();
+
+    std::vector<std::string> typed;
+    for (const auto& event : editor.receivedKeys()) {
+        typed.push_back(event.characters);
+    }
+    EXPECT_EQ(typed, (std::vector<std::string>{"!", "z", "", "é!"}));
+}
+
+TEST_F(SimulatedKeyboardTest, WhereTapsSeeEveryKeyEachRepetitionIsDecidedAnew)
+{
+    desktop.eventTaps.visibility = SimulatedEventTaps::Visibility::everyKey;
+    const auto tap = startTap({});
+    desktop.hold(31);
+    desktop.repeatKey(31);
+    desktop.drain();
+    EXPECT_EQ(seen.size(), 2U);
+
+    answer = TapDecision::pass;
+    desktop.repeatKey(31);
+    desktop.drain();
+
+    EXPECT_EQ(seen.size(), 3U);
+    EXPECT_EQ(editor.receivedKeys().size(), 1U);
+}
+
+TEST_F(SimulatedKeyboardTest, WithNobodyInFrontKeysAreLost)
+{
+    desktop.leaveNobodyInFront();
+
+    desktop.press(31);
+    desktop.drain();
+
+    EXPECT_TRUE(editor.receivedKeys().empty());
+}
+
+TEST_F(SimulatedKeyboardTest, ARepetitionOfAKeyThatIsNotHeldIsNothing)
+{
+    desktop.press(31);
+    desktop.repeatKey(31);
+    desktop.drain();
+
+    EXPECT_EQ(editor.receivedKeys().size(), 1U);
+}
+
 } // namespace
 } // namespace quorvel

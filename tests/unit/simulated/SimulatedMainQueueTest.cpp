@@ -1,11 +1,14 @@
 #include "platform/simulated/SimulatedMainQueue.h"
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "base/FatalError.h"
 #include "platform/simulated/Journal.h"
 
 namespace quorvel {
@@ -68,6 +71,36 @@ TEST_F(SimulatedMainQueueTest, ARepetitionCanEndItself)
 
     EXPECT_EQ(notes.size(), 2U);
     EXPECT_EQ(queue.pendingCount(), 0U);
+}
+
+TEST_F(SimulatedMainQueueTest, TimeCanGoOnToTheNextWork)
+{
+    queue.after(Seconds(3.0), note("late"));
+
+    EXPECT_TRUE(queue.advanceToNext());
+    EXPECT_EQ(notes, (std::vector<std::string>{"late"}));
+    EXPECT_EQ(queue.now(), Seconds(3.0));
+    EXPECT_FALSE(queue.advanceToNext());
+}
+
+TEST_F(SimulatedMainQueueTest, WorkThatIsOverdueRunsAtOnceAndTimeDoesNotGoBack)
+{
+    queue.advance(Seconds(5.0));
+    queue.after(Seconds(-1.0), note("overdue"));
+    queue.advance(Seconds(0.0));
+
+    EXPECT_EQ(notes, (std::vector<std::string>{"overdue"}));
+    EXPECT_EQ(queue.now(), Seconds(5.0));
+}
+
+TEST_F(SimulatedMainQueueTest, WorkThatNeverEndsIsFatal)
+{
+    const auto interceptor = interceptFatalErrors([](std::string_view message) { throw std::string(message); });
+    std::function<void()> again = [&] { queue.async(again); };
+    again();
+
+    EXPECT_THROW(queue.drain(), std::string);
+    EXPECT_THROW(static_cast<void>(queue.repeat(Seconds(0.0), [] {})), std::string);
 }
 
 TEST_F(SimulatedMainQueueTest, OtherThreadsAddWorkForTheMainThread)
