@@ -17,10 +17,21 @@ constexpr LabelFallbackColors fallbackColors{
     .border = Color::white(),
 };
 
+// Letter and box cast one shadow. It lies under the fill, which covers the letter's part of it as far as it is opaque.
+void castShadow(LabelBox& box)
+{
+    const Shadow shadow{Color::black(), margin};
+    box.shadow = shadow;
+    const double uncovered = 1.0 - box.backgroundColor.alpha;
+    if (uncovered > 0.0) {
+        box.letter.shadow = Shadow{shadow.color.withAlpha(uncovered), shadow.blurRadius};
+    }
+}
+
 void appendLine(LabelBox& box, const std::optional<std::string>& text, const Font& font, double opacity)
 {
     if (text && !text->empty()) {
-        box.lines.push_back({
+        box.details.push_back({
             .text = *text,
             .font = font,
             .color = Color::white().withAlpha(opacity),
@@ -34,7 +45,7 @@ void appendLine(LabelBox& box, const std::optional<std::string>& text, const Fon
 DrawList CompactLabelView::body(const Size& size, const ViewEnvironment& environment) const
 {
     auto box = LabelBox::withLetter(label, appearance, fallbackColors);
-    box.shadow = Shadow{Color::black(), margin};
+    castShadow(box);
     if (appearance.showWindowInfo) {
         appendLine(box, appName, {std::max(12.0, appearance.textSize * 0.2), FontWeight::semibold}, 0.95);
         appendLine(box, windowTitle, {std::max(10.0, appearance.textSize * 0.17), FontWeight::regular}, 0.65);

@@ -1,6 +1,7 @@
 #include "layouts/FilledBorder.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace quorvel {
 
@@ -13,7 +14,7 @@ void FilledBorder::appendTo(DrawList& list) const
         .backing = backing,
         .fill = fill,
         .stroke = std::nullopt,
-        .shadow = shadow,
+        .shadow = std::nullopt,
     });
     if (!(border.width > 0.0)) {
         return;

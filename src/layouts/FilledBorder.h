@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "base/DrawList.h"
 
 namespace quorvel {
@@ -18,7 +16,6 @@ struct FilledBorder {
     Backing backing = Backing::open;
     Color fill;
     Stroke border; // none where its width is not above 0
-    std::optional<Shadow> shadow;
 
     void appendTo(DrawList& list) const;
 };

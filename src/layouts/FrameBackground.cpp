@@ -8,7 +8,7 @@ namespace quorvel {
 void appendFrameBackground(DrawList& list, const OverlayAppearance& appearance, const Size& size,
                            const Color& fallbackColor)
 {
-    FilledBorder{
+    const FilledBorder frame{
         .rect = {0.0, 0.0, size.width, size.height},
         .cornerRadius = appearance.overlayBorderRadius,
         .cornerStyle = CornerStyle::continuous,
@@ -16,9 +16,8 @@ void appendFrameBackground(DrawList& list, const OverlayAppearance& appearance, 
         .fill = colorFromHex(appearance.overlayBackgroundColorHex).value_or(fallbackColor.withAlpha(0.5)),
         .border = {colorFromHex(appearance.overlayBorderColorHex).value_or(fallbackColor),
                    appearance.overlayBorderWidth},
-        .shadow = std::nullopt,
-    }
-        .appendTo(list);
+    };
+    frame.appendTo(list);
 }
 
 } // namespace quorvel

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "base/ColorCodec.h"
-#include "layouts/FilledBorder.h"
 #include "platform/TextMetrics.h"
 
 namespace quorvel {
@@ -15,6 +14,7 @@ namespace {
 
 constexpr double horizontalPadding = 8.0;
 constexpr double verticalPadding = 4.0;
+constexpr double detailMargin = 4.0; // further room beside and below the details
 
 // How far along the free space between a box and its area an anchor puts the box: 0 at the left or top, 1 at the right
 // or bottom.
@@ -55,6 +55,33 @@ ViewRect anchored(const Size& size, const ViewRect& area, LabelPosition anchor)
             std::round(area.y + (area.height - size.height) * share.y), size.width, size.height};
 }
 
+// One shape, so that its shadow is that of fill and border together. The border lies wholly inside the box.
+RoundedRectCommand outline(const LabelBox& label, const ViewRect& box)
+{
+    const double inset = std::max(0.0, label.border.width / 2.0);
+    return {
+        .rect = box.insetBy(inset, inset),
+        .cornerRadius = std::max(0.0, label.cornerRadius - inset),
+        .cornerStyle = CornerStyle::circular,
+        .backing = Backing::solid,
+        .fill = label.backgroundColor,
+        .stroke = label.border.width > 0.0 ? std::optional(label.border) : std::nullopt,
+        .shadow = label.shadow,
+    };
+}
+
+TextCommand textCommand(const LabelLine& line, const ViewRect& box)
+{
+    return {
+        .text = line.text,
+        .font = line.font,
+        .color = line.color,
+        .box = box,
+        .alignment = TextAlignment::center,
+        .shadow = line.shadow,
+    };
+}
+
 } // namespace
 
 LabelBox LabelBox::withLetter(std::string letter, const OverlayAppearance& appearance,
@@ -62,12 +89,14 @@ LabelBox LabelBox::withLetter(std::string letter, const OverlayAppearance& appea
 {
     const auto weight = appearance.isTextBold ? FontWeight::bold : FontWeight::regular;
     return {
-        .lines = {{
-            .text = std::move(letter),
-            .font = {std::max(0.0, appearance.textSize), weight},
-            .color = colorFromHex(appearance.textColorHex).value_or(fallbackColors.text),
-            .shadow = std::nullopt,
-        }},
+        .letter =
+            {
+                .text = std::move(letter),
+                .font = {std::max(0.0, appearance.textSize), weight},
+                .color = colorFromHex(appearance.textColorHex).value_or(fallbackColors.text),
+                .shadow = std::nullopt,
+            },
+        .details = {},
         .backgroundColor = colorFromHex(appearance.textBackgroundColorHex).value_or(fallbackColors.background),
         .border = {colorFromHex(appearance.textBorderColorHex).value_or(fallbackColors.border),
                    appearance.textBorderWidth},
@@ -78,42 +107,30 @@ LabelBox LabelBox::withLetter(std::string letter, const OverlayAppearance& appea
 
 void LabelBox::appendTo(DrawList& list, const ViewRect& area, LabelPosition anchor, const TextMetrics& metrics) const
 {
-    Size content;
-    std::vector<double> lineHeights;
-    lineHeights.reserve(lines.size());
-    for (const auto& line : lines) {
-        const auto size = metrics.measure(line.text, line.font);
-        lineHeights.push_back(size.height);
-        content.width = std::max(content.width, size.width);
+    const auto letterSize = metrics.measure(letter.text, letter.font);
+    auto content = letterSize;
+    std::vector<double> detailHeights;
+    for (const auto& detail : details) {
+        const auto size = metrics.measure(detail.text, detail.font);
+        detailHeights.push_back(size.height);
+        content.width = std::max(content.width, size.width + 2.0 * detailMargin);
         content.height += size.height;
+    }
+    if (!details.empty()) {
+        content.height += detailMargin;
     }
     const Size boxSize{std::min(content.width + 2.0 * horizontalPadding, area.width),
                        content.height + 2.0 * verticalPadding};
     const auto box = anchored(boxSize, area, anchor);
-    FilledBorder{
-        .rect = box,
-        .cornerRadius = cornerRadius,
-        .cornerStyle = CornerStyle::circular,
-        .backing = Backing::solid,
-        .fill = backgroundColor,
-        .border = border,
-        .shadow = shadow,
-    }
-        .appendTo(list);
+    list.commands.emplace_back(outline(*this, box));
 
-    auto textBox = box.insetBy(horizontalPadding, verticalPadding);
-    for (std::size_t index = 0; index < lines.size(); ++index) {
-        const auto& line = lines[index];
-        textBox.height = lineHeights[index];
-        list.commands.emplace_back(TextCommand{
-            .text = line.text,
-            .font = line.font,
-            .color = line.color,
-            .box = textBox,
-            .alignment = TextAlignment::center,
-            .shadow = line.shadow,
-        });
-        textBox.y += lineHeights[index];
+    auto row = box.insetBy(horizontalPadding, verticalPadding);
+    row.height = letterSize.height;
+    list.commands.emplace_back(textCommand(letter, row));
+    for (std::size_t index = 0; index < details.size(); ++index) {
+        row.y += row.height;
+        row.height = detailHeights[index];
+        list.commands.emplace_back(textCommand(details[index], row.insetBy(detailMargin, 0.0)));
     }
 }
 

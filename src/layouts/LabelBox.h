@@ -28,13 +28,14 @@ struct LabelFallbackColors {
 
 // A letter on a box, with further lines under it where there are any; each line is centred.
 //
-//   ╭────────────────╮
-//   │       A        │
-//   │     Safari     │
-//   │   Start page   │
-//   ╰────────────────╯
+//   ╭──────────────────╮
+//   │        A         │ letter
+//   │      Safari      │ details
+//   │    Start page    │
+//   ╰──────────────────╯
 struct LabelBox {
-    std::vector<LabelLine> lines;
+    LabelLine letter;
+    std::vector<LabelLine> details;
     Color backgroundColor;
     Stroke border;
     double cornerRadius = 0.0;

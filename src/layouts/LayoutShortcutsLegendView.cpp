@@ -60,16 +60,15 @@ TextCommand digitOf(const LayoutShortcutEntry& entry, const ViewRect& badge)
 
 void appendBackground(DrawList& list, const Size& size)
 {
-    FilledBorder{
+    const FilledBorder plate{
         .rect = {0.0, 0.0, size.width, size.height},
         .cornerRadius = 10.0,
         .cornerStyle = CornerStyle::circular,
         .backing = Backing::solid,
         .fill = Color::black().withAlpha(0.78),
         .border = {Color::white().withAlpha(0.12), 1.0},
-        .shadow = std::nullopt,
-    }
-        .appendTo(list);
+    };
+    plate.appendTo(list);
 }
 
 } // namespace

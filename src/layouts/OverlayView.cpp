@@ -28,7 +28,7 @@ void appendWindowInfo(LabelBox& box, const OverlayView& view, const Color& yello
     const Font font{std::max(0.0, view.appearance.textSize * 0.7), FontWeight::regular};
     for (const auto* name : {&view.appName, &view.windowTitle}) {
         if (isPresent(*name)) {
-            box.lines.push_back({.text = **name, .font = font, .color = color, .shadow = std::nullopt});
+            box.details.push_back({.text = **name, .font = font, .color = color, .shadow = std::nullopt});
         }
     }
 }

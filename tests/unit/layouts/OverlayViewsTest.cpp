@@ -33,6 +33,13 @@ const TextCommand& textAt(const DrawList& list, std::size_t index)
     return std::get<TextCommand>(list.commands.at(index));
 }
 
+ViewRect outerRect(const RoundedRectCommand& shape)
+{
+    const double outside = shape.stroke ? shape.stroke->width / 2.0 : 0.0;
+    const auto& rect = shape.rect;
+    return {rect.x - outside, rect.y - outside, rect.width + 2.0 * outside, rect.height + 2.0 * outside};
+}
+
 std::vector<std::string> textsOf(const DrawList& list)
 {
     std::vector<std::string> texts;
@@ -101,18 +108,11 @@ TEST_F(OverlayViewTest, ShowsAFrameWithItsLetterInABoxInTheMiddle)
                            .fill = std::nullopt,
                            .stroke = Stroke{yellow, 2.0},
                            .shadow = std::nullopt},
-        RoundedRectCommand{.rect = {342.0, 416.0, 35.0, 42.0},
-                           .cornerRadius = 6.0,
-                           .cornerStyle = CornerStyle::circular,
-                           .backing = Backing::solid,
-                           .fill = transparent,
-                           .stroke = std::nullopt,
-                           .shadow = std::nullopt},
         RoundedRectCommand{.rect = {343.0, 417.0, 33.0, 40.0},
                            .cornerRadius = 5.0,
                            .cornerStyle = CornerStyle::circular,
-                           .backing = Backing::open,
-                           .fill = std::nullopt,
+                           .backing = Backing::solid,
+                           .fill = transparent,
                            .stroke = Stroke{yellow, 2.0},
                            .shadow = std::nullopt},
         TextCommand{.text = "A",
@@ -144,10 +144,10 @@ TEST_F(OverlayViewTest, ReadsItsAppearanceFromTheSettings)
     EXPECT_EQ(shapeAt(list, 1).rect, (ViewRect{5.0, 5.0, 708.0, 863.0}));
     EXPECT_EQ(shapeAt(list, 1).stroke, (Stroke{Color::bytes(0x10, 0x20, 0x30), 10.0}));
     EXPECT_EQ(shapeAt(list, 2).fill, Color::bytes(0x70, 0x80, 0x90));
-    EXPECT_EQ(shapeAt(list, 2).cornerRadius, 9.0);
-    EXPECT_EQ(shapeAt(list, 3).stroke, (Stroke{Color::bytes(0x40, 0x50, 0x60), 4.0}));
-    EXPECT_EQ(textAt(list, 4).color, Color::bytes(0xA0, 0xB0, 0xC0));
-    EXPECT_EQ(textAt(list, 4).font, (Font{40.0, FontWeight::regular}));
+    EXPECT_EQ(shapeAt(list, 2).cornerRadius, 7.0);
+    EXPECT_EQ(shapeAt(list, 2).stroke, (Stroke{Color::bytes(0x40, 0x50, 0x60), 4.0}));
+    EXPECT_EQ(textAt(list, 3).color, Color::bytes(0xA0, 0xB0, 0xC0));
+    EXPECT_EQ(textAt(list, 3).font, (Font{40.0, FontWeight::regular}));
 }
 
 TEST_F(OverlayViewTest, AColourThatCannotBeReadIsYellowAndABoxBlack)
@@ -161,15 +161,15 @@ TEST_F(OverlayViewTest, AColourThatCannotBeReadIsYellowAndABoxBlack)
     EXPECT_EQ(shapeAt(list, 0).fill, yellow.withAlpha(0.5));
     EXPECT_EQ(shapeAt(list, 1).stroke->color, yellow);
     EXPECT_EQ(shapeAt(list, 2).fill, Color::black());
-    EXPECT_EQ(shapeAt(list, 3).stroke->color, yellow);
-    EXPECT_EQ(textAt(list, 4).color, yellow);
+    EXPECT_EQ(shapeAt(list, 2).stroke->color, yellow);
+    EXPECT_EQ(textAt(list, 3).color, yellow);
 }
 
 TEST_F(OverlayViewTest, TheLetterSitsAtTheAnchorOfTheSettings)
 {
     const auto boxAt = [this](std::string_view position) {
         settings.setString("labelPosition", std::string(position));
-        return shapeAt(overlayLabelled("A"), 2).rect;
+        return outerRect(shapeAt(overlayLabelled("A"), 2));
     };
     EXPECT_EQ(boxAt("topLeft"), (ViewRect{0.0, 0.0, 35.0, 42.0}));
     EXPECT_EQ(boxAt("top"), (ViewRect{342.0, 0.0, 35.0, 42.0}));
@@ -187,7 +187,7 @@ TEST_F(OverlayViewTest, AnOverridePositionGoesBeforeTheSettings)
 {
     settings.setString("labelPosition", "top");
     const auto list = overlay({"A", LabelPosition::bottom, std::nullopt, std::nullopt, {}});
-    EXPECT_EQ(shapeAt(list, 2).rect, (ViewRect{342.0, 831.0, 35.0, 42.0}));
+    EXPECT_EQ(outerRect(shapeAt(list, 2)), (ViewRect{342.0, 831.0, 35.0, 42.0}));
 }
 
 TEST_F(OverlayViewTest, NamesStandUnderTheLetterInTheColourOfTheBorder)
@@ -195,9 +195,9 @@ TEST_F(OverlayViewTest, NamesStandUnderTheLetterInTheColourOfTheBorder)
     settings.setString("textBorderColor", "#FF000080");
     const auto list = overlay({"A", std::nullopt, "Safari", "Start page", {}});
     ASSERT_THAT(textsOf(list), ElementsAre("A", "Safari", "Start page"));
-    const auto& letter = textAt(list, 4);
-    const auto& appName = textAt(list, 5);
-    const auto& title = textAt(list, 6);
+    const auto& letter = textAt(list, 3);
+    const auto& appName = textAt(list, 4);
+    const auto& title = textAt(list, 5);
     EXPECT_DOUBLE_EQ(appName.font.size, 19.6);
     EXPECT_DOUBLE_EQ(title.font.size, 19.6);
     EXPECT_EQ(appName.color, Color::bytes(255, 0, 0).withAlpha(128.0 / 255.0 * 0.85));
@@ -212,15 +212,15 @@ TEST_F(OverlayViewTest, NamesStandUnderTheLetterInTheColourOfTheBorder)
 TEST_F(OverlayViewTest, NamesAreFaintYellowWhereTheBorderColourCannotBeRead)
 {
     settings.setString("textBorderColor", "?");
-    EXPECT_EQ(textAt(overlay({"A", std::nullopt, "Safari", std::nullopt, {}}), 5).color,
+    EXPECT_EQ(textAt(overlay({"A", std::nullopt, "Safari", std::nullopt, {}}), 4).color,
               desktop.systemColors.yellow().withAlpha(0.4));
 }
 
 TEST_F(OverlayViewTest, ALongTitleIsCutToTheFrame)
 {
     const auto list = overlay({"A", std::nullopt, std::nullopt, std::string(200, 'x'), {}}, {300.0, 200.0});
-    EXPECT_EQ(shapeAt(list, 2).rect.width, 300.0);
-    EXPECT_EQ(textAt(list, 5).box.width, 284.0);
+    EXPECT_EQ(outerRect(shapeAt(list, 2)).width, 300.0);
+    EXPECT_EQ(textAt(list, 4).box.width, 276.0);
 }
 
 TEST_F(OverlayViewTest, WithoutWindowInfoTheLetterStandsAlone)
@@ -294,30 +294,42 @@ TEST_F(CompactLabelViewTest, ShowsTheLetterAndTheNamesInABoxInTheMiddle)
     const auto list = compactLabel("Safari", "Start page");
     ASSERT_THAT(textsOf(list), ElementsAre("A", "Safari", "Start page"));
     // The title is the widest line: ten characters of 10.88 points. The lines are 77, 16 and 14 points high.
-    EXPECT_EQ(shapeAt(list, 0).rect, (ViewRect{213.0, 85.0, 82.0, 115.0}));
+    EXPECT_EQ(outerRect(shapeAt(list, 0)), (ViewRect{209.0, 83.0, 90.0, 119.0}));
+    EXPECT_EQ(shapeAt(list, 0).cornerRadius, 7.0);
     EXPECT_EQ(shapeAt(list, 0).backing, Backing::solid);
     EXPECT_EQ(shapeAt(list, 0).fill, Color::bytes(221, 0, 0, 0));
-    EXPECT_EQ(shapeAt(list, 0).cornerRadius, 8.0);
-    EXPECT_EQ(shapeAt(list, 0).shadow, (Shadow{Color::black(), 4.0}));
-    EXPECT_EQ(shapeAt(list, 1).stroke, (Stroke{Color::white(), 2.0}));
-    EXPECT_EQ(textAt(list, 2).font, (Font{64.0, FontWeight::bold}));
-    EXPECT_EQ(textAt(list, 2).color, Color::white());
-    EXPECT_EQ(textAt(list, 2).box, (ViewRect{221.0, 89.0, 66.0, 77.0}));
-    EXPECT_EQ(textAt(list, 3).box, (ViewRect{221.0, 166.0, 66.0, 16.0}));
-    EXPECT_EQ(textAt(list, 4).box, (ViewRect{221.0, 182.0, 66.0, 14.0}));
+    EXPECT_EQ(shapeAt(list, 0).stroke, (Stroke{Color::white(), 2.0}));
+    EXPECT_EQ(textAt(list, 1).font, (Font{64.0, FontWeight::bold}));
+    EXPECT_EQ(textAt(list, 1).color, Color::white());
+    EXPECT_EQ(textAt(list, 1).box, (ViewRect{217.0, 87.0, 74.0, 77.0}));
+    EXPECT_EQ(textAt(list, 2).box, (ViewRect{221.0, 164.0, 66.0, 16.0}));
+    EXPECT_EQ(textAt(list, 3).box, (ViewRect{221.0, 180.0, 66.0, 14.0}));
 }
 
 TEST_F(CompactLabelViewTest, NamesAreWhiteWithASoftShadow)
 {
     const auto list = compactLabel("Safari", "Start page");
     const Shadow soft{Color::black().withAlpha(0.5), 1.0};
-    EXPECT_EQ(textAt(list, 3).color, Color::white().withAlpha(0.95));
-    EXPECT_EQ(textAt(list, 4).color, Color::white().withAlpha(0.65));
-    EXPECT_EQ(textAt(list, 3).font.weight, FontWeight::semibold);
-    EXPECT_EQ(textAt(list, 4).font.weight, FontWeight::regular);
+    EXPECT_EQ(textAt(list, 2).color, Color::white().withAlpha(0.95));
+    EXPECT_EQ(textAt(list, 3).color, Color::white().withAlpha(0.65));
+    EXPECT_EQ(textAt(list, 2).font.weight, FontWeight::semibold);
+    EXPECT_EQ(textAt(list, 3).font.weight, FontWeight::regular);
+    EXPECT_EQ(textAt(list, 2).shadow, soft);
     EXPECT_EQ(textAt(list, 3).shadow, soft);
-    EXPECT_EQ(textAt(list, 4).shadow, soft);
-    EXPECT_EQ(textAt(list, 2).shadow, std::nullopt);
+}
+
+TEST_F(CompactLabelViewTest, LetterAndBoxCastOneBlackShadowThatTheFillCovers)
+{
+    const auto shadowsOn = [this](std::string fill) {
+        settings.setString("wsTextBackgroundColor", std::move(fill));
+        const auto list = compactLabel(std::nullopt, std::nullopt);
+        return std::pair(shapeAt(list, 0).shadow, textAt(list, 1).shadow);
+    };
+    const Shadow black{Color::black(), 4.0};
+    EXPECT_EQ(shadowsOn("#DD000000"), std::pair(std::optional(black), std::optional(black)));
+    EXPECT_EQ(shadowsOn("#FFFFFF"), std::pair(std::optional(black), std::optional<Shadow>()));
+    const Shadow faint{Color::black().withAlpha(1.0 - 0x33 / 255.0), 4.0};
+    EXPECT_EQ(shadowsOn("#00000033"), std::pair(std::optional(black), std::optional(faint)));
 }
 
 TEST_F(CompactLabelViewTest, NamesGrowWithTheLetterButStayReadable)
@@ -325,7 +337,7 @@ TEST_F(CompactLabelViewTest, NamesGrowWithTheLetterButStayReadable)
     const auto sizesAt = [this](double textSize) {
         settings.setReal("wsTextSize", textSize);
         const auto list = compactLabel("Safari", "Start page");
-        return std::pair(textAt(list, 3).font.size, textAt(list, 4).font.size);
+        return std::pair(textAt(list, 2).font.size, textAt(list, 3).font.size);
     };
     EXPECT_EQ(sizesAt(30.0), std::pair(12.0, 10.0));
     EXPECT_DOUBLE_EQ(sizesAt(64.0).first, 12.8);
@@ -338,7 +350,7 @@ TEST_F(CompactLabelViewTest, ATextSizeThatIsNotPositiveCountsAs64)
 {
     for (const double textSize : {0.0, -3.0}) {
         settings.setReal("wsTextSize", textSize);
-        EXPECT_EQ(textAt(compactLabel(std::nullopt, std::nullopt), 2).font.size, 64.0) << textSize;
+        EXPECT_EQ(textAt(compactLabel(std::nullopt, std::nullopt), 1).font.size, 64.0) << textSize;
     }
 }
 
@@ -355,9 +367,9 @@ TEST_F(CompactLabelViewTest, ANameThatIsMissingOrEmptyTakesNoRoom)
 TEST_F(CompactLabelViewTest, ALongTitleIsCutToTheLabel)
 {
     const auto list = compactLabel("Safari", std::string(500, 'x'), {508.0, 284.0});
-    EXPECT_EQ(shapeAt(list, 0).rect.minX(), 4.0);
-    EXPECT_EQ(shapeAt(list, 0).rect.maxX(), 504.0);
-    EXPECT_EQ(textAt(list, 4).box.width, 484.0);
+    EXPECT_EQ(outerRect(shapeAt(list, 0)).minX(), 4.0);
+    EXPECT_EQ(outerRect(shapeAt(list, 0)).maxX(), 504.0);
+    EXPECT_EQ(textAt(list, 3).box.width, 476.0);
 }
 
 TEST_F(CompactLabelViewTest, AColourThatCannotBeReadIsWhiteOnBlack)
@@ -367,8 +379,8 @@ TEST_F(CompactLabelViewTest, AColourThatCannotBeReadIsWhiteOnBlack)
     settings.setString("wsTextBorderColor", "#1");
     const auto list = compactLabel(std::nullopt, std::nullopt);
     EXPECT_EQ(shapeAt(list, 0).fill, Color::black());
-    EXPECT_EQ(shapeAt(list, 1).stroke->color, Color::white());
-    EXPECT_EQ(textAt(list, 2).color, Color::white());
+    EXPECT_EQ(shapeAt(list, 0).stroke->color, Color::white());
+    EXPECT_EQ(textAt(list, 1).color, Color::white());
 }
 
 class LayoutShortcutsLegendViewTest : public OverlayViewsTest {};

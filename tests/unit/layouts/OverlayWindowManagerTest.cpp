@@ -85,7 +85,7 @@ TEST_F(OverlayWindowManagerFrames, AFrameIsNamedFilledPlacedAndThenShown)
 {
     manager.showLayoutFrame("A", leftHalf, primaryVisible);
     EXPECT_THAT(desktop.journal.entries({"OverlayWindow."}),
-                ElementsAre("OverlayWindow.setFrameAutosaveName(1, A)", "OverlayWindow.setContent(1, 5)",
+                ElementsAre("OverlayWindow.setFrameAutosaveName(1, A)", "OverlayWindow.setContent(1, 4)",
                             "OverlayWindow.setClipsToBounds(1, false)",
                             "OverlayWindow.setFrame(1, (1.0, 26.0, 718.0, 873.0))",
                             "OverlayWindow.orderFrontRegardless(1)"));
@@ -196,9 +196,9 @@ TEST_F(OverlayWindowManagerLabels, BorderAndLabelFillTheirWindows)
     manager.showWindowLabel("A", infoWith("Safari", "Start page"), largeWindow);
     const auto& border = std::get<RoundedRectCommand>(window(1).content.commands.front());
     EXPECT_EQ(border.rect, (ViewRect{0.0, 0.0, 800.0, 700.0}));
-    EXPECT_EQ(std::get<TextCommand>(window(2).content.commands.at(2)).text, "A");
-    EXPECT_EQ(std::get<TextCommand>(window(2).content.commands.at(3)).text, "Safari");
-    EXPECT_EQ(std::get<TextCommand>(window(2).content.commands.at(4)).text, "Start page");
+    EXPECT_EQ(std::get<TextCommand>(window(2).content.commands.at(1)).text, "A");
+    EXPECT_EQ(std::get<TextCommand>(window(2).content.commands.at(2)).text, "Safari");
+    EXPECT_EQ(std::get<TextCommand>(window(2).content.commands.at(3)).text, "Start page");
 }
 
 TEST_F(OverlayWindowManagerLabels, TheSizeFollowsTheTextSizeOfTheSettings)
