@@ -112,6 +112,11 @@ void Connection::flush()
     xcb_flush(connection);
 }
 
+void Connection::sync()
+{
+    PendingReply<xcb_get_input_focus_reply>(connection, xcb_get_input_focus(connection)).take();
+}
+
 Subscription Connection::addEventHandler(std::uint8_t type, EventHandler function)
 {
     auto handler = std::make_shared<Handler>(std::move(function));

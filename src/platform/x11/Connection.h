@@ -50,6 +50,9 @@ public:
 
     void flush();
 
+    // Waits until the server has carried out every request so far.
+    void sync();
+
     // Calls the handler from the main loop with every event of that type (a response type without the bit that marks
     // sent events; for extensions their first event plus the event's number; XCB_GE_GENERIC for generic events).
     Subscription addEventHandler(std::uint8_t type, EventHandler handler);

@@ -1,4 +1,4 @@
-#include "platform/x11/KeyMapping.h"
+#include "platform/x11/keys/KeyMapping.h"
 
 #include <algorithm>
 #include <set>
@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/x11/KeyTable.h"
+#include "platform/x11/keys/KeyTable.h"
 
 namespace quorvel::x11 {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/x11/PlistUserDefaults.h"
+#include "platform/x11/settings/PlistUserDefaults.h"
 
 #include <algorithm>
 #include <csignal>

@@ -1,4 +1,4 @@
-#include "platform/x11/PropertyList.h"
+#include "platform/x11/settings/PropertyList.h"
 
 #include <bit>
 #include <clocale>

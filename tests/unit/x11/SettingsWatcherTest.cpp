@@ -1,4 +1,4 @@
-#include "platform/x11/SettingsWatcher.h"
+#include "platform/x11/settings/SettingsWatcher.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "platform/x11/XmlPlistReader.h"
+#include "platform/x11/settings/XmlPlistReader.h"
 
 #include <algorithm>
 #include <memory>
@@ -9,7 +9,7 @@
 #include <fmt/format.h>
 #include <glib.h>
 
-#include "platform/x11/PlistLeaf.h"
+#include "platform/x11/settings/PlistLeaf.h"
 
 namespace quorvel::x11 {
 

@@ -1,6 +1,6 @@
-#include "platform/x11/X11KeyboardLayout.h"
+#include "platform/x11/keys/X11KeyboardLayout.h"
 
-#include "platform/x11/Keyboard.h"
+#include "platform/x11/keys/Keyboard.h"
 
 namespace quorvel::x11 {
 

@@ -1,7 +1,7 @@
-#include "platform/x11/PropertyList.h"
+#include "platform/x11/settings/PropertyList.h"
 
-#include "platform/x11/BinaryPlistReader.h"
-#include "platform/x11/XmlPlistReader.h"
+#include "platform/x11/settings/BinaryPlistReader.h"
+#include "platform/x11/settings/XmlPlistReader.h"
 
 namespace quorvel::x11 {
 

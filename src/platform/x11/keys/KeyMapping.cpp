@@ -1,11 +1,11 @@
-#include "platform/x11/KeyMapping.h"
+#include "platform/x11/keys/KeyMapping.h"
 
 #include <algorithm>
 #include <utility>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
-#include "platform/x11/KeyTable.h"
+#include "platform/x11/keys/KeyTable.h"
 
 namespace quorvel::x11 {
 

@@ -4,13 +4,15 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <xcb/xcb.h>
 
 #include "base/Subscription.h"
 #include "base/WeakGuard.h"
-#include "platform/x11/KeyMapping.h"
+#include "platform/x11/Listeners.h"
+#include "platform/x11/keys/KeyMapping.h"
 
 namespace quorvel {
 class MainQueue;
@@ -37,7 +39,7 @@ public:
     KeyState layoutState() const { return KeyMapping::layoutState(layout); }
 
     // Runs the handler after every change of the map, until the token goes.
-    Subscription observeMapping(std::function<void()> handler);
+    Subscription observeMapping(std::function<void()> handler) { return mappingListeners.add(std::move(handler)); }
 
 private:
     Keyboard(Connection& connection, MainQueue& mainQueue);
@@ -56,7 +58,7 @@ private:
     std::unique_ptr<KeyMapping> current;
     unsigned layout = 0;
     bool isReloadScheduled = false;
-    std::vector<std::shared_ptr<std::function<void()>>> observers;
+    Listeners<> mappingListeners;
     std::vector<Subscription> subscriptions;
     WeakGuard weakGuard;
 };

@@ -1,4 +1,4 @@
-#include "platform/x11/Keyboard.h"
+#include "platform/x11/keys/Keyboard.h"
 
 #include <utility>
 
@@ -6,7 +6,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/x11/Connection.h"
-#include "platform/x11/XcbXkb.h"
+#include "platform/x11/keys/XcbXkb.h"
 
 namespace quorvel::x11 {
 
@@ -82,13 +82,6 @@ void Keyboard::selectEvents()
     }
 }
 
-Subscription Keyboard::observeMapping(std::function<void()> handler)
-{
-    auto observer = std::make_shared<std::function<void()>>(std::move(handler));
-    observers.push_back(observer);
-    return Subscription([this, observer] { std::erase(observers, observer); });
-}
-
 void Keyboard::handleXkbEvent(const xcb_generic_event_t& event)
 {
     const auto& head = reinterpret_cast<const XkbEvent&>(event);
@@ -116,9 +109,7 @@ void Keyboard::reload()
         return; // the connection is gone, or another change is under way and will be announced
     }
     current = std::move(mapping);
-    for (const auto& observer : std::vector(observers)) {
-        (*observer)();
-    }
+    mappingListeners.call();
 }
 
 std::unique_ptr<KeyMapping> Keyboard::readMapping() const

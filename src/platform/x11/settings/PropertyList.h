@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/x11/PlistNode.h"
+#include "platform/x11/settings/PlistNode.h"
 
 namespace quorvel::x11 {
 

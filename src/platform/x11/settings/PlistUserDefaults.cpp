@@ -1,10 +1,10 @@
-#include "platform/x11/PlistUserDefaults.h"
+#include "platform/x11/settings/PlistUserDefaults.h"
 
 #include <utility>
 
 #include <fmt/format.h>
 
-#include "platform/x11/PropertyList.h"
+#include "platform/x11/settings/PropertyList.h"
 
 namespace quorvel::x11 {
 

@@ -11,7 +11,7 @@
 #include <xcb/xcb.h>
 
 #include "base/Keys.h"
-#include "platform/x11/XkbObjects.h"
+#include "platform/x11/keys/XkbObjects.h"
 
 namespace quorvel::x11 {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "platform/UserDefaults.h"
-#include "platform/x11/PlistNode.h"
-#include "platform/x11/SettingsFile.h"
+#include "platform/x11/settings/PlistNode.h"
+#include "platform/x11/settings/SettingsFile.h"
 
 namespace quorvel::x11 {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/x11/PlistNode.h"
+#include "platform/x11/settings/PlistNode.h"
 
 namespace quorvel::x11 {
 

@@ -1,4 +1,4 @@
-#include "platform/x11/KeyTable.h"
+#include "platform/x11/keys/KeyTable.h"
 
 namespace quorvel::x11 {
 

@@ -1,4 +1,4 @@
-#include "platform/x11/SettingsFile.h"
+#include "platform/x11/settings/SettingsFile.h"
 
 #include <cerrno>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "platform/x11/PlistLeaf.h"
+#include "platform/x11/settings/PlistLeaf.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "platform/x11/PlistNode.h"
+#include "platform/x11/settings/PlistNode.h"
 
 #include <type_traits>
 

@@ -4,7 +4,7 @@
 #include <glib.h>
 
 #include "base/Utf8.h"
-#include "platform/x11/PropertyList.h"
+#include "platform/x11/settings/PropertyList.h"
 
 namespace quorvel::x11 {
 

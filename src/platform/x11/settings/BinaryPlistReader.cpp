@@ -1,4 +1,4 @@
-#include "platform/x11/BinaryPlistReader.h"
+#include "platform/x11/settings/BinaryPlistReader.h"
 
 #include <algorithm>
 #include <bit>

@@ -7,7 +7,7 @@
 
 #include "platform/x11/FileDescriptor.h"
 #include "platform/x11/LoopSource.h"
-#include "platform/x11/SettingsFile.h"
+#include "platform/x11/settings/SettingsFile.h"
 
 namespace quorvel::x11 {
 

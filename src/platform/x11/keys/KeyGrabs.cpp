@@ -1,0 +1,48 @@
+#include "platform/x11/keys/KeyGrabs.h"
+
+#include "platform/x11/Connection.h"
+
+namespace quorvel::x11 {
+
+KeyGrabs::Combinations KeyGrabs::take(const Combinations& combinations)
+{
+    struct Request {
+        KeyCombination combination;
+        xcb_void_cookie_t cookie;
+    };
+    std::vector<Request> requests;
+    for (const auto& combination : combinations) {
+        if (++claims[combination] == 1) {
+            requests.push_back(
+                {combination, xcb_grab_key_checked(connection.xcb(), 0, connection.root(), combination.modifiers,
+                                                   combination.keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)});
+        }
+    }
+    Combinations refused;
+    for (const auto& request : requests) {
+        const Reply<xcb_generic_error_t> error(xcb_request_check(connection.xcb(), request.cookie));
+        if (error) {
+            claims.erase(request.combination);
+            refused.push_back(request.combination);
+        }
+    }
+    return refused;
+}
+
+void KeyGrabs::giveBack(const Combinations& combinations)
+{
+    bool isChanged = false;
+    for (const auto& combination : combinations) {
+        const auto claim = claims.find(combination);
+        if (--claim->second == 0) {
+            claims.erase(claim);
+            xcb_ungrab_key(connection.xcb(), combination.keycode, connection.root(), combination.modifiers);
+            isChanged = true;
+        }
+    }
+    if (isChanged) {
+        connection.sync();
+    }
+}
+
+} // namespace quorvel::x11

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include "base/WeakGuard.h"
+#include "platform/x11/keys/KeyEvents.h"
+
+namespace quorvel {
+class MainQueue;
+}
+
+namespace quorvel::x11 {
+
+class Connection;
+class Keyboard;
+
+// The whole keyboard, taken away from the applications for a while.
+//
+// Giving it back while a key is down would let the key's auto-repeat type into the focused window. So the keyboard is
+// kept until the keys are up, frozen after each stroke: a further key that belongs to the application is not lost but
+// handed on, and the keyboard with it.
+//
+//      free --take--> taken --release--> leaving --keys up, or a key for the application--> free
+//                       ^------- take -----'
+class KeyboardGrab {
+public:
+    KeyboardGrab(Connection& connection, const Keyboard& keyboard, KeyEvents& events, MainQueue& mainQueue);
+    KeyboardGrab(const KeyboardGrab&) = delete;
+    KeyboardGrab& operator=(const KeyboardGrab&) = delete;
+    ~KeyboardGrab();
+
+    // False if another program keeps the keyboard. Costs one round trip, or a few milliseconds before it fails.
+    bool take();
+
+    // Gives the keyboard back as soon as no key is down: at once if none is.
+    void release();
+
+    // The same in the loop's next turn, unless it is taken again before.
+    void releaseSoon();
+
+    // Gives it back whatever is down.
+    void releaseAtOnce();
+
+private:
+    enum class Phase { free, taken, leaving };
+
+    bool grab(std::uint8_t keyboardMode);
+    std::uint8_t grabStatus(std::uint8_t keyboardMode, xcb_timestamp_t time);
+    void follow(const KeyStroke& stroke, StrokeOutcome outcome);
+    void handOn();
+    void allowNextStroke();
+    void lookForLostReleases();
+    void forgetReleasedKeys();
+
+    Connection& connection;
+    const Keyboard& keyboard;
+    KeyEvents& events;
+    MainQueue& mainQueue;
+    Phase phase = Phase::free;
+    bool isReleaseDue = false;
+    bool isLooking = false;
+    WeakGuard weakGuard;
+};
+
+} // namespace quorvel::x11
