@@ -1,0 +1,292 @@
+#include "app/MainController.h"
+
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "base/FatalError.h"
+#include "platform/Log.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
+#include "settings/Settings.h"
+#include "settings/ShortcutSettings.h"
+#include "system/GlobalEventBlocker.h"
+
+namespace quorvel {
+
+namespace {
+
+struct NavigationHotKey {
+    Action action;
+    ShortcutKeys keys;
+};
+
+constexpr NavigationHotKey navigationHotKeys[] = {
+    {Action::nextLayout, shortcutKeys::nextLayout},
+    {Action::previousLayout, shortcutKeys::previousLayout},
+    {Action::nextScreen, shortcutKeys::nextScreen},
+    {Action::previousScreen, shortcutKeys::previousScreen},
+};
+
+std::uint32_t checked32(std::int64_t stored)
+{
+    if (stored < 0 || stored > std::numeric_limits<std::uint32_t>::max()) {
+        fatalError(fmt::format("{} is no key code and no modifiers of a hot key", stored));
+    }
+    return static_cast<std::uint32_t>(stored);
+}
+
+} // namespace
+
+MainController::MainController(const Platform& platform, GlobalEventBlocker* blocker)
+    : platform(platform),
+      overlayWindowManager(platform),
+      preferencesManager(platform.preferencesUi),
+      shortcutManager(platform.hotKeys, platform.mainQueue, platform.log),
+      layouts(platform.bundle, Settings(platform.userDefaults), platform.log),
+      eventBlocker(blocker),
+      layoutOverlayMode({.platform = platform,
+                         .overlayWindowManager = overlayWindowManager,
+                         .layoutsManager = layouts,
+                         .stateManager = state,
+                         .eventBlocker = blocker,
+                         .currentScreen = currentScreen,
+                         .handleAction = [this](Action action, const ActionArguments& arguments) {
+                             handleAction(action, arguments);
+                         }})
+{
+    layouts.loadLayouts();
+    layouts.seedDefaultLayoutsIfNeeded();
+    observers.push_back(platform.notificationCenter.observe(notificationNames::shortcutDidChange, noNotificationObject,
+                                                            weakly.guard([this] { registerShortcuts(); })));
+    registerShortcuts();
+}
+
+MainController::~MainController() = default;
+
+void MainController::registerShortcuts()
+{
+    if (shortcutsPaused) {
+        platform.log.line("Shortcuts paused; not registering.");
+        return;
+    }
+    const Settings settings(platform.userDefaults);
+    const auto activateOverlay = mainShortcut(settings, shortcutKeys::activateOverlay);
+    platform.log.line(fmt::format("Registering shortcuts: keyCode={}, modifiers={}", activateOverlay.keyCode,
+                                  activateOverlay.modifiers));
+    shortcutManager.unregisterAll();
+    registerHotKey(activateOverlay, Action::activateOverlay);
+    registerHotKey(mainShortcut(settings, shortcutKeys::moveResize), Action::moveResizeFrontmost);
+    registerHotKey(mainShortcut(settings, shortcutKeys::focusSwitcher), Action::focusSwitcher);
+    for (const auto& hotKey : navigationHotKeys) {
+        const auto shortcut = navigationShortcut(settings, hotKey.keys);
+        // Without modifiers it works inside the overlay only.
+        if (shortcut.modifiers != 0) {
+            registerHotKey(shortcut, hotKey.action);
+        }
+    }
+}
+
+// Key code 0 stands for a shortcut that was cleared: it must not take the A key from the whole system.
+void MainController::registerHotKey(const Shortcut& shortcut, Action action)
+{
+    if (shortcut.keyCode == 0) {
+        return;
+    }
+    shortcutManager.registerHotKey(checked32(shortcut.keyCode), checked32(shortcut.modifiers), action,
+                                   weakly.guard([this](Action fired) {
+                                       if (fired == Action::activateOverlay) {
+                                           platform.log.line("Activate overlay shortcut fired");
+                                       }
+                                       handleAction(fired, {});
+                                   }));
+}
+
+void MainController::handleAction(Action action, const ActionArguments& arguments)
+{
+    switch (action) {
+    case Action::cancel:
+        exitCurrentMode();
+        break;
+    case Action::activateOverlay:
+        toggleOverlay();
+        break;
+    case Action::moveClientWindow:
+        moveClientWindow(arguments);
+        break;
+    case Action::nextLayout:
+        layouts.selectNextLayout();
+        showStepped(arguments);
+        break;
+    case Action::previousLayout:
+        layouts.selectPreviousLayout();
+        showStepped(arguments);
+        break;
+    case Action::jumpToLayout:
+        jumpToLayout(arguments);
+        break;
+    case Action::nextScreen:
+    case Action::previousScreen:
+        showStepped(arguments);
+        break;
+    case Action::moveResizeFrontmost:
+        if (isLabelling()) {
+            leaveCurrentMode();
+        }
+        break;
+    case Action::focusSwitcher:
+        if (modes.moveResizeElement || isLabelling()) {
+            leaveCurrentMode();
+        }
+        break;
+    }
+}
+
+void MainController::toggleOverlay()
+{
+    if (modes.moveResizeElement) {
+        leaveCurrentMode();
+        showOverlay(std::nullopt, nullptr);
+    } else if (isLabelling()) {
+        leaveCurrentMode();
+    } else {
+        showOverlay(std::nullopt, nullptr);
+    }
+}
+
+void MainController::showStepped(const ActionArguments& arguments)
+{
+    leaveCurrentMode();
+    showOverlay(argumentAt<ScreensModel>(arguments, 0), elementAt(arguments, 1));
+}
+
+void MainController::jumpToLayout(const ActionArguments& arguments)
+{
+    const auto id = argumentAt<std::string>(arguments, 0);
+    if (id && layouts.selectLayoutWithID(*id)) {
+        leaveCurrentMode();
+        showOverlay(argumentAt<ScreensModel>(arguments, 1), elementAt(arguments, 2));
+    }
+}
+
+void MainController::moveClientWindow(const ActionArguments& arguments)
+{
+    const auto frame = argumentAt<WindowModel>(arguments, 0);
+    const auto screens = argumentAt<ScreensModel>(arguments, 1);
+    const auto element = elementAt(arguments, 2);
+    if (frame && screens && element) {
+        layoutOverlayMode.placeWindow(*frame, *screens, *element);
+    }
+}
+
+void MainController::showOverlay(const std::optional<ScreensModel>& screens,
+                                 std::shared_ptr<WindowElementModel> element)
+{
+    if (shortcutsPaused) {
+        platform.log.line("Overlay suppressed: shortcuts paused");
+        return;
+    }
+    layoutOverlayMode.showOverlay(screens, std::move(element));
+}
+
+void MainController::exitCurrentMode()
+{
+    overlayWindowManager.hideAll();
+    releaseBlocker();
+    if (modes.moveResizeElement) {
+        modes.moveResizeElement->hideOverlayFrame();
+        modes.moveResizeElement.reset();
+    }
+    if (modes.snapTargetOverlay) {
+        modes.snapTargetOverlay->hide();
+    }
+    modes.eventMonitor.reset();
+    if (!overlayWindowManager.isOverlayVisible()) {
+        state.currentState = StateManager::States::normal;
+    }
+}
+
+void MainController::dismissFocusSwitcher()
+{
+    overlayWindowManager.hideAll();
+    releaseBlocker();
+    modes.focusSwitcherMouseMonitor.reset();
+    for (auto* panels : {&modes.minimizedWindowsPanels, &modes.allWindowsListPanels}) {
+        for (const auto& panel : *panels) {
+            panel->close();
+        }
+        panels->clear();
+    }
+    modes.isMinimizedPanelVisible = false;
+    modes.isAllWindowsPanelVisible = false;
+    state.currentState = StateManager::States::normal;
+}
+
+// True while the layout overlay or the focus switcher is up.
+bool MainController::isLabelling() const
+{
+    return state.currentState == StateManager::States::overlayOn;
+}
+
+bool MainController::isFocusSwitcherLeft() const
+{
+    return modes.focusSwitcherMouseMonitor.isActive() || !modes.minimizedWindowsPanels.empty() ||
+           !modes.allWindowsListPanels.empty() || overlayWindowManager.isOverlayVisible();
+}
+
+// A hot key may find any mode on, the focus switcher too, which has more to take down.
+void MainController::leaveCurrentMode()
+{
+    exitCurrentMode();
+    if (isFocusSwitcherLeft()) {
+        dismissFocusSwitcher();
+    }
+}
+
+void MainController::releaseBlocker()
+{
+    if (eventBlocker != nullptr) {
+        eventBlocker->clearBlockedKeys();
+    }
+}
+
+void MainController::openPreferences()
+{
+    shortcutsPaused = true;
+    shortcutManager.unregisterAll();
+    releaseBlocker();
+    preferencesManager.show();
+    observePreferencesClosing();
+}
+
+// The window announces its closing in two ways, and each of them is enough. Observers of earlier openings stay: hot
+// keys that are resumed several times in a row are registered from scratch each time.
+void MainController::observePreferencesClosing()
+{
+    const auto resumeWith = [this](std::string_view line) {
+        return weakly.guard([this, line] {
+            platform.log.line(line);
+            resumeShortcuts();
+        });
+    };
+    observers.push_back(
+        platform.notificationCenter.observe(notificationNames::preferencesWillClose, noNotificationObject,
+                                            resumeWith("Preferences close notification received; resuming shortcuts")));
+    if (const auto window = preferencesManager.windowObject()) {
+        observers.push_back(
+            platform.notificationCenter.observe(notificationNames::windowWillClose, *window,
+                                                resumeWith("Preferences window will close; resuming shortcuts")));
+    } else {
+        platform.log.line("Preferences window not available to observe; relying on notification to resume shortcuts");
+    }
+}
+
+void MainController::resumeShortcuts()
+{
+    shortcutsPaused = false;
+    registerShortcuts();
+}
+
+} // namespace quorvel
