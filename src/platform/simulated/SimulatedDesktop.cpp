@@ -13,7 +13,10 @@ SimulatedDesktop::SimulatedDesktop()
           {mainQueue, keyboardLayout, hotKeys, eventTaps, eventMonitors, overlayWindows, preferencesUi, windowServer})
 {}
 
-SimulatedDesktop::~SimulatedDesktop() = default;
+SimulatedDesktop::~SimulatedDesktop()
+{
+    mainQueue.discard(); // waiting work may own windows, which need their ports to go
+}
 
 Platform SimulatedDesktop::platform()
 {

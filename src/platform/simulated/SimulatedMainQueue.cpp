@@ -101,6 +101,14 @@ bool SimulatedMainQueue::advanceToNext()
     return true;
 }
 
+void SimulatedMainQueue::discard()
+{
+    // What the work owns may add work as it goes, so it goes outside the lock.
+    for (auto dropped = takeAll(); !dropped.empty(); dropped = takeAll()) {
+        dropped.clear();
+    }
+}
+
 std::size_t SimulatedMainQueue::pendingCount() const
 {
     const std::lock_guard lock(mutex);
@@ -117,6 +125,12 @@ void SimulatedMainQueue::add(Seconds delay, std::function<void()> work)
 {
     const std::lock_guard lock(mutex);
     pending.emplace(Key{clock + std::max(delay, Seconds(0.0)), nextSequence++}, std::move(work));
+}
+
+std::map<SimulatedMainQueue::Key, std::function<void()>> SimulatedMainQueue::takeAll()
+{
+    const std::lock_guard lock(mutex);
+    return std::exchange(pending, {});
 }
 
 std::optional<std::function<void()>> SimulatedMainQueue::takeDue(std::uint64_t addedBefore)

@@ -42,6 +42,9 @@ public:
     // Lets time pass until the next work falls due, and runs what is due then; false if none waits.
     bool advanceToNext();
 
+    // Drops everything that waits.
+    void discard();
+
     Seconds now() const { return clock; }
 
     // Work that waits, due or not.
@@ -52,6 +55,7 @@ private:
 
     std::optional<Seconds> nextDue() const;
     void add(Seconds delay, std::function<void()> work);
+    std::map<Key, std::function<void()>> takeAll();
     std::optional<std::function<void()>> takeDue(std::uint64_t addedBefore);
     void runRepeatedly(Seconds interval, const std::shared_ptr<const std::function<void()>>& work,
                        const std::weak_ptr<const int>& token);

@@ -1,6 +1,7 @@
 #include "platform/simulated/SimulatedMainQueue.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -91,6 +92,19 @@ TEST_F(SimulatedMainQueueTest, WorkThatIsOverdueRunsAtOnceAndTimeDoesNotGoBack)
 
     EXPECT_EQ(notes, (std::vector<std::string>{"overdue"}));
     EXPECT_EQ(queue.now(), Seconds(5.0));
+}
+
+TEST_F(SimulatedMainQueueTest, DroppedWorkNeverRunsAndMayAddWorkAsItGoes)
+{
+    auto owned = std::make_shared<Subscription>([this] { queue.async(note("added by the dropped")); });
+    queue.async([this, owned] { notes.emplace_back("dropped"); });
+    owned.reset();
+
+    queue.discard();
+    queue.drain();
+
+    EXPECT_TRUE(notes.empty());
+    EXPECT_EQ(queue.pendingCount(), 0U);
 }
 
 TEST_F(SimulatedMainQueueTest, WorkThatNeverEndsIsFatal)

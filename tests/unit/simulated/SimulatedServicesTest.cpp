@@ -1,9 +1,25 @@
+#include <memory>
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "platform/simulated/SimulatedDesktop.h"
 
 namespace quorvel {
 namespace {
+
+TEST(SimulatedDesktop, WorkThatWaitsAtTheEndMayOwnWindows)
+{
+    bool ran = false;
+    {
+        SimulatedDesktop desktop;
+        std::shared_ptr<OverlayWindow> window = desktop.overlayWindows.createWindow({});
+        window->orderFrontRegardless();
+        desktop.mainQueue.async([&ran, window] { ran = true; });
+    }
+    EXPECT_FALSE(ran);
+}
 
 TEST(SimulatedBundle, ResourcesAreMissingReadableOrUnreadable)
 {
