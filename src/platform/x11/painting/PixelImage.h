@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace quorvel::x11 {
@@ -43,6 +44,10 @@ struct PixelImage {
 
     Pixel at(int x, int y) const { return pixels[index(x, y)]; }
     Pixel& at(int x, int y) { return pixels[index(x, y)]; }
+    std::span<const Pixel> row(int y) const
+    {
+        return std::span(pixels).subspan(index(0, y), static_cast<std::size_t>(size.width));
+    }
 
     bool operator==(const PixelImage&) const = default;
 

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+#include "base/DrawList.h"
+#include "base/Geometry.h"
+#include "base/Subscription.h"
+#include "base/WeakGuard.h"
+#include "platform/x11/overlays/CompositorWatch.h"
+#include "platform/x11/overlays/OverlayGraphics.h"
+#include "platform/x11/overlays/OverlayStacking.h"
+#include "platform/x11/painting/Painter.h"
+#include "platform/x11/painting/PictureCache.h"
+
+namespace quorvel {
+class MainQueue;
+}
+
+namespace quorvel::x11 {
+
+class Connection;
+class OverlaySurface;
+class X11Screens;
+
+// What the overlay windows have in common: when they reach the server, how they are drawn, and in which order they lie.
+class OverlayStage {
+public:
+    OverlayStage(Connection& connection, MainQueue& mainQueue, X11Screens& screens, OverlayGraphics& graphics,
+                 const TextLayouts& layouts);
+
+    void add(OverlaySurface& surface);
+    void remove(OverlaySurface& surface);
+
+    // Has the surface commit itself before the main loop waits the next time.
+    void schedule(OverlaySurface& surface);
+
+    Blending blending() const;
+
+    // The whole pixels that a frame covers; at least one.
+    PixelRect rootRect(const ScreenRect& frame) const;
+
+    // How a window of that size shows what a view of that many points draws.
+    PaintPlan plan(const DrawList& content, Size viewSize, PixelSize windowSize);
+
+    Connection& connection;
+    OverlayGraphics& graphics;
+    OverlayStacking stacking;
+
+private:
+    void commit();
+    void invalidate();
+    void handleExpose(const xcb_generic_event_t& event);
+    void warmUp();
+
+    MainQueue& mainQueue;
+    X11Screens& screens;
+    Painter painter;
+    PictureCache pictures;
+    CompositorWatch compositor;
+    std::vector<OverlaySurface*> surfaces;
+    std::vector<OverlaySurface*> scheduled;
+    Subscription exposures;
+    WeakGuard weakGuard;
+};
+
+} // namespace quorvel::x11

@@ -1,0 +1,154 @@
+#include "platform/x11/overlays/OverlaySurface.h"
+
+#include <utility>
+
+#include "platform/x11/Connection.h"
+#include "platform/x11/overlays/OverlayStage.h"
+
+namespace quorvel::x11 {
+
+OverlaySurface::OverlaySurface(OverlayStage& stage, const WindowDescription& description)
+    : stage(stage), description(description), screenFrame(description.contentRect)
+{
+    stage.add(*this);
+}
+
+OverlaySurface::~OverlaySurface()
+{
+    close();
+    stage.remove(*this);
+}
+
+void OverlaySurface::setFrame(const ScreenRect& frame)
+{
+    if (frame != screenFrame) {
+        screenFrame = frame;
+        scheduleIfShown();
+    }
+}
+
+void OverlaySurface::setContent(DrawList list)
+{
+    if (list != content) {
+        content = std::move(list);
+        isPlanDue = true;
+        scheduleIfShown();
+    }
+}
+
+void OverlaySurface::orderFront()
+{
+    isShown = true;
+    isRaiseDue = true;
+    stage.schedule(*this);
+}
+
+void OverlaySurface::orderOut()
+{
+    isShown = false;
+    if (isMapped) {
+        isMapped = false;
+        stage.stacking.remove(xWindow);
+        xcb_unmap_window(stage.connection.xcb(), xWindow);
+    }
+}
+
+void OverlaySurface::close()
+{
+    orderOut();
+    if (xWindow != XCB_WINDOW_NONE) {
+        events.reset();
+        xcb_destroy_window(stage.connection.xcb(), std::exchange(xWindow, XCB_WINDOW_NONE));
+        isCut = false;
+        isPlanDue = true;
+    }
+}
+
+void OverlaySurface::scheduleIfShown()
+{
+    if (isShown) {
+        stage.schedule(*this);
+    }
+}
+
+void OverlaySurface::commit()
+{
+    if (!isShown) {
+        return;
+    }
+    const auto age = place();
+    if (std::exchange(isPlanDue, false)) {
+        plan = stage.plan(content, screenFrame.size(), {rootRect.width, rootRect.height});
+        isDrawingDue = true;
+        cutToPlan();
+    }
+    if (std::exchange(isRaiseDue, false)) {
+        stage.stacking.raise(xWindow, description.level, age);
+    }
+    if (!std::exchange(isMapped, true)) {
+        xcb_map_window(stage.connection.xcb(), xWindow);
+        drawnAt = stage.graphics.draw(xWindow, plan);
+    } else if (isDrawingDue) {
+        redraw();
+    }
+    isDrawingDue = false;
+}
+
+OverlayStacking::Age OverlaySurface::place()
+{
+    const auto target = stage.rootRect(screenFrame);
+    if (target.width != rootRect.width || target.height != rootRect.height) {
+        isPlanDue = true;
+    }
+    const bool isPlaced = std::exchange(rootRect, target) == target;
+    if (xWindow == XCB_WINDOW_NONE) {
+        createWindow();
+        return OverlayStacking::Age::newborn;
+    }
+    if (!isPlaced) {
+        stage.graphics.place(xWindow, rootRect);
+    }
+    return OverlayStacking::Age::old;
+}
+
+void OverlaySurface::createWindow()
+{
+    xWindow = stage.graphics.createWindow(rootRect);
+    if (description.ignoresMouseEvents) {
+        stage.graphics.ignoreMouse(xWindow);
+    }
+    events = stage.connection.selectEvents(xWindow, XCB_EVENT_MASK_EXPOSURE | ownersEventMask);
+}
+
+void OverlaySurface::cutToPlan()
+{
+    if (stage.blending() == Blending::unavailable) {
+        stage.graphics.cut(xWindow, opaqueRegion(plan));
+        isCut = true;
+    } else if (std::exchange(isCut, false)) {
+        stage.graphics.removeCut(xWindow);
+    }
+}
+
+void OverlaySurface::redraw()
+{
+    stage.graphics.clear(xWindow);
+    drawnAt = stage.graphics.draw(xWindow, plan);
+}
+
+void OverlaySurface::invalidate()
+{
+    isPlanDue = true;
+    scheduleIfShown();
+}
+
+void OverlaySurface::expose(std::uint32_t sequence)
+{
+    // Mapping exposes the whole window; what was drawn after it in the same breath need not be drawn again.
+    const bool wasDrawnLater = static_cast<std::int32_t>(sequence - drawnAt) < 0;
+    if (isMapped && !wasDrawnLater) {
+        redraw();
+    }
+}
+
+} // namespace quorvel::x11

@@ -1,0 +1,63 @@
+#include "platform/x11/overlays/X11OverlayPanel.h"
+
+#include <utility>
+
+#include "platform/x11/Connection.h"
+#include "platform/x11/keys/Keyboard.h"
+#include "platform/x11/overlays/OverlayStage.h"
+
+namespace quorvel::x11 {
+
+X11OverlayPanel::X11OverlayPanel(OverlayStage& stage, const Keyboard& keyboard, const WindowDescription& description,
+                                 std::function<void(const KeyEvent&)> onKeyDown)
+    : SurfaceWindow(stage, description),
+      connection(stage.connection),
+      keyboard(keyboard),
+      onKeyDown(std::move(onKeyDown))
+{
+    surface.setEventMask(XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_FOCUS_CHANGE);
+    events.push_back(connection.addHandler<xcb_key_press_event_t>(
+        XCB_KEY_PRESS, [this](const xcb_key_press_event_t& event) { handleKeyPress(event); }));
+    events.push_back(connection.addHandler<xcb_focus_in_event_t>(
+        XCB_FOCUS_IN, [this](const xcb_focus_in_event_t& event) { handleFocusChange(event, true); }));
+    events.push_back(connection.addHandler<xcb_focus_out_event_t>(
+        XCB_FOCUS_OUT, [this](const xcb_focus_out_event_t& event) { handleFocusChange(event, false); }));
+}
+
+void X11OverlayPanel::makeKey()
+{
+    if (!isVisible()) {
+        return;
+    }
+    surface.commit(); // the server gives the focus only to windows that are shown
+    xcb_set_input_focus(connection.xcb(), XCB_INPUT_FOCUS_POINTER_ROOT, surface.window(), XCB_CURRENT_TIME);
+    hasFocus = true;
+}
+
+bool X11OverlayPanel::isKey() const
+{
+    return hasFocus && isVisible();
+}
+
+void X11OverlayPanel::handleKeyPress(const xcb_key_press_event_t& event)
+{
+    if (event.event != surface.window()) {
+        return;
+    }
+    const auto& mapping = keyboard.mapping();
+    const auto keyCode = mapping.keyCode(event.detail);
+    if (keyCode && !mapping.isModifier(event.detail)) {
+        onKeyDown({*keyCode, mapping.characters(event.detail, event.state), mapping.flags(event.state)});
+    }
+}
+
+void X11OverlayPanel::handleFocusChange(const xcb_focus_in_event_t& event, bool isFocused)
+{
+    // A grab takes keys away for a moment, not the focus.
+    const bool isByGrab = event.mode == XCB_NOTIFY_MODE_GRAB || event.mode == XCB_NOTIFY_MODE_UNGRAB;
+    if (event.event == surface.window() && !isByGrab) {
+        hasFocus = isFocused;
+    }
+}
+
+} // namespace quorvel::x11

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "base/Keys.h"
+#include "base/Subscription.h"
+#include "platform/x11/overlays/SurfaceWindow.h"
+
+namespace quorvel::x11 {
+
+class Connection;
+class Keyboard;
+
+// An overlay window that takes the X input focus. Whoever orders it out gives the focus to somebody else.
+class X11OverlayPanel final : public SurfaceWindow<OverlayPanel> {
+public:
+    X11OverlayPanel(OverlayStage& stage, const Keyboard& keyboard, const WindowDescription& description,
+                    std::function<void(const KeyEvent&)> onKeyDown);
+
+    void makeKey() override;
+    bool isKey() const override;
+
+private:
+    void handleKeyPress(const xcb_key_press_event_t& event);
+    void handleFocusChange(const xcb_focus_in_event_t& event, bool isFocused);
+
+    Connection& connection;
+    const Keyboard& keyboard;
+    std::function<void(const KeyEvent&)> onKeyDown;
+    bool hasFocus = false;
+    std::vector<Subscription> events;
+};
+
+} // namespace quorvel::x11

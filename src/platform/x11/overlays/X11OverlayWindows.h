@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/OverlayWindows.h"
+#include "platform/x11/overlays/OverlayStage.h"
+
+namespace quorvel::x11 {
+
+class Keyboard;
+
+// Override-redirect windows with an alpha channel, which no window manager touches. What they are given during one turn
+// of the main loop is sent together.
+class X11OverlayWindows final : public OverlayWindows {
+public:
+    X11OverlayWindows(Connection& connection, MainQueue& mainQueue, X11Screens& screens, const Keyboard& keyboard,
+                      OverlayGraphics& graphics, const TextLayouts& layouts)
+        : keyboard(keyboard), stage(connection, mainQueue, screens, graphics, layouts)
+    {}
+
+    std::unique_ptr<OverlayWindow> createWindow(const WindowDescription& description) override;
+    std::unique_ptr<OverlayPanel> createPanel(const WindowDescription& description,
+                                              std::function<void(const KeyEvent&)> onKeyDown) override;
+
+private:
+    const Keyboard& keyboard;
+    OverlayStage stage;
+};
+
+} // namespace quorvel::x11
