@@ -1,0 +1,12 @@
+#pragma once
+
+namespace quorvel {
+
+class Log;
+class UserDefaults;
+
+// Writes a line for every setting that is stored with a type it should not have, as happens to a file edited by hand.
+// The value stays as it is; its reader converts it or uses a default.
+void reportMistypedSettings(const UserDefaults& userDefaults, Log& log);
+
+} // namespace quorvel
