@@ -57,18 +57,12 @@ std::int64_t integerFromText(std::string_view text)
     return isNegative ? -magnitude : magnitude;
 }
 
-// The decimal number that the text begins with: sign, digits, fraction, exponent.
+// The part at the beginning of the text that may be a decimal number: sign, digits, fraction, exponent.
 std::string_view decimalPrefix(std::string_view text)
 {
     std::size_t end = digitsEnd(text, signLength(text));
-    bool hasDigits = end > signLength(text);
     if (end < text.size() && text[end] == '.') {
-        const auto fractionEnd = digitsEnd(text, end + 1);
-        hasDigits = hasDigits || fractionEnd > end + 1;
-        end = fractionEnd;
-    }
-    if (!hasDigits) {
-        return {};
+        end = digitsEnd(text, end + 1);
     }
     if (end < text.size() && (text[end] == 'e' || text[end] == 'E')) {
         const auto exponent = end + 1 + signLength(text.substr(end + 1));
@@ -84,7 +78,7 @@ double realFromText(std::string_view text)
     std::istringstream stream{std::string(decimalPrefix(withoutLeadingSpace(text)))};
     stream.imbue(std::locale::classic());
     double value = 0.0;
-    stream >> value;
+    stream >> value; // 0 where there are no digits
     return value;
 }
 

@@ -108,7 +108,6 @@ void PermissionsOnboarding::waitFor(Permission permission, Step next)
     platform.permissions.request(permission);
     // Where the system has no such place, a person may still find the switch: waiting goes on.
     static_cast<void>(platform.permissions.openSettings(permission));
-    stopPolling();
     pollTimer = platform.mainQueue.repeat(std::chrono::seconds(1),
                                           weakly.guard([this, permission, next] { poll(permission, next); }));
 }

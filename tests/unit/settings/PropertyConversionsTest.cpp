@@ -87,6 +87,7 @@ TEST(PropertyConversions, RealsTakeNumbersAndTheDecimalNumberThatATextBeginsWith
     EXPECT_EQ(realFrom(text("30pt")), 30.0);
     EXPECT_EQ(realFrom(text(".")), 0.0);
     EXPECT_EQ(realFrom(text("-")), 0.0);
+    EXPECT_EQ(realFrom(text(".e5")), 0.0);
     EXPECT_EQ(realFrom(text("large")), 0.0);
     EXPECT_EQ(realFrom(text("inf")), 0.0);
     EXPECT_EQ(realFrom(text("")), 0.0);

@@ -245,10 +245,17 @@ TEST_F(GlobalEventBlockerTest, AHandlerMayReplaceItself)
 {
     blocker->start();
     blocker->setBlockedKeyCodes({31});
-    blocker->setOnBlockKey([this](const CapturedKey&) { blocker->setOnBlockKey(collect()); });
+    auto property = std::make_shared<int>(0);
+    const std::weak_ptr<int> watched = property;
+    bool keptItsPropertyThroughout = false;
+    blocker->setOnBlockKey([&, property = std::move(property)](const CapturedKey&) {
+        blocker->setOnBlockKey(collect());
+        keptItsPropertyThroughout = !watched.expired();
+    });
     desktop.press(31);
     desktop.press(31);
     desktop.drain();
+    EXPECT_TRUE(keptItsPropertyThroughout);
     EXPECT_EQ(capturedCodes(), (std::vector<KeyCode>{31}));
 }
 
@@ -422,8 +429,9 @@ TEST_F(GlobalEventBlockerTest, AnApplicationThatQuitMeanwhileIsNotActivatedAndFo
     blocker->clearBlockedKeys();
     EXPECT_EQ(desktop.journal.count("Workspace.activate("), 0U);
 
+    // Another application gets the same process id; this program in front leaves whom it remembers alone.
     desktop.launch(RunningApplication{editor.process(), "Another", ActivationPolicy::regular});
-    desktop.leaveNobodyInFront();
+    desktop.workspace.activateSelf();
     blocker->setBlockedKeyCodes({31});
     blocker->setOnBlockKey(collect());
     blocker->clearBlockedKeys();
@@ -485,6 +493,16 @@ TEST_F(GlobalEventBlockerTest, ATapThatIsRefusedItsKeysGivesWayToThePanelForThis
     blocker->setOnBlockKey(collect());
     EXPECT_TRUE(blocker->hasEventTap());
     EXPECT_FALSE(isPanelVisible());
+}
+
+TEST_F(GlobalEventBlockerTest, ARefusalEndsWithTheTap)
+{
+    desktop.eventTaps.refuseKeys();
+    startWithHandler({31});
+    blocker->stop();
+    desktop.eventTaps.refuseSources();
+    blocker->start();
+    EXPECT_TRUE(blocker->hasEventTap());
 }
 
 TEST_F(GlobalEventBlockerTest, ATapMayComeUpWhileThePanelStandsIn)

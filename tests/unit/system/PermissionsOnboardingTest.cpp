@@ -239,6 +239,42 @@ TEST_F(PermissionsOnboardingTest, ThereIsAtMostOnePoll)
     EXPECT_EQ(checksWithin(10.0), 10U);
 }
 
+TEST_F(PermissionsOnboardingTest, ThePollRestsWhileTheNextAlertIsUp)
+{
+    desktop.permissions.deny(Permission::accessibility);
+    desktop.permissions.deny(Permission::inputMonitoring);
+    answer(openSettings);
+    desktop.alerts.choose("Later", [this] { desktop.advance(10.0); });
+    onboarding->run();
+    desktop.permissions.grant(Permission::accessibility);
+    desktop.advance(1.0);
+    EXPECT_EQ(shownTitles(), (std::vector<std::string>{step1, step2}));
+}
+
+TEST_F(PermissionsOnboardingTest, PostponingEndsAnEarlierPoll)
+{
+    desktop.permissions.deny(Permission::accessibility);
+    desktop.permissions.deny(Permission::inputMonitoring);
+    answer(openSettings);
+    answer("Later");
+    onboarding->run();
+    onboarding->run();
+    desktop.permissions.grant(Permission::accessibility);
+    desktop.advance(10.0);
+    EXPECT_EQ(shownTitles(), (std::vector<std::string>{step1, step1}));
+}
+
+TEST_F(PermissionsOnboardingTest, SuccessEndsAnEarlierPoll)
+{
+    desktop.permissions.deny(Permission::accessibility);
+    answer(openSettings);
+    onboarding->run();
+    desktop.permissions.grant(Permission::accessibility);
+    onboarding->run();
+    EXPECT_EQ(allGrantedCount, 1);
+    EXPECT_EQ(checksWithin(10.0), 0U);
+}
+
 TEST_F(PermissionsOnboardingTest, APollEndsWithTheOnboarding)
 {
     desktop.permissions.deny(Permission::accessibility);
