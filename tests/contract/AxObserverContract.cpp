@@ -177,6 +177,16 @@ TEST_F(AxObserverContract, ADestroyedObserverHearsNothing)
     EXPECT_EQ(heard, Names{});
 }
 
+TEST_F(AxObserverContract, WhatIsUnderWayIsDroppedWithItsObserver)
+{
+    auto observer = watch();
+    desktop->moveWindow(window, {40.0, 60.0, 450.0, 350.0});
+    observer.reset();
+    desktop->settle();
+
+    EXPECT_EQ(heard, Names{});
+}
+
 TEST_F(AxObserverContract, AnUnknownNotificationIsUnsupported)
 {
     const auto observer = createObserver();

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <set>
 #include <vector>
@@ -12,6 +14,7 @@ namespace {
 constexpr KeyCode keyA = 0;
 constexpr KeyCode keyB = 11;
 constexpr KeyCode keyN = 45;
+constexpr auto hotKeyFlags = eventFlags::control | eventFlags::option;
 
 using Keys = std::vector<KeyCode>;
 
@@ -66,11 +69,27 @@ protected:
                desktop->keysReceivedBy(editor) == keys;
     }
 
+    // A hot key on Control and Option with the key.
+    void installHotKey(KeyCode keyCode)
+    {
+        auto& hotKeys = port(&ContractPorts::hotKeys);
+        hotKeys.installHandler([this](HotKeyEvent& event) {
+            ++hotKeyPresses;
+            return event.callNextHandler();
+        });
+        const auto modifiers = hotKeyModifiers::control | hotKeyModifiers::option;
+        ASSERT_EQ(hotKeys.registerHotKey(static_cast<std::uint32_t>(keyCode), modifiers, {7, 1}).status,
+                  osStatus::success);
+    }
+
+    std::ptrdiff_t pressesSeen(KeyCode keyCode) const { return std::ranges::count(seen, keyCode); }
+
     ContractWindow editor = desktop->openWindow("Editor", "Notes", {100.0, 120.0, 500.0, 400.0});
     EventTaps& taps = port(&ContractPorts::eventTaps);
     std::set<KeyCode> interest;
     Keys seen;
     std::vector<KeyEvent> events;
+    int hotKeyPresses = 0;
 };
 
 TEST_F(EventTapsContract, DroppedKeysReachTheTapAndNoApplication)
@@ -149,21 +168,33 @@ TEST_F(EventTapsContract, AllKeysCanBeDropped)
 
 TEST_F(EventTapsContract, AHotKeyGoesBeforeTheTap)
 {
-    auto& hotKeys = port(&ContractPorts::hotKeys);
-    int fired = 0;
-    hotKeys.installHandler([&](HotKeyEvent& event) {
-        ++fired;
-        return event.callNextHandler();
-    });
-    hotKeys.registerHotKey(keyB, hotKeyModifiers::control | hotKeyModifiers::option, {7, 1});
+    installHotKey(keyB);
     const auto tap = startTap(allKeys());
 
-    desktop->pressKey(keyB, eventFlags::control | eventFlags::option);
+    desktop->pressKey(keyB, hotKeyFlags);
     desktop->pressKey(keyB);
 
-    EXPECT_TRUE(desktop->waitUntil([&] { return fired == 1; }));
-    EXPECT_TRUE(desktop->waitUntil([&] { return !seen.empty() && seen.back() == keyB; }));
-    EXPECT_EQ(std::ranges::count(seen, keyB), 1);
+    EXPECT_TRUE(desktop->waitUntil([&] { return hotKeyPresses == 1 && pressesSeen(keyB) == 1; }));
+}
+
+// A mode that starts on a hot key takes all keys while that key is still held.
+TEST_F(EventTapsContract, TheRepetitionOfAHeldHotKeyIsNotSeen)
+{
+    installHotKey(keyB);
+    desktop->holdKey(keyB, hotKeyFlags);
+    ASSERT_TRUE(desktop->waitUntil([&] { return hotKeyPresses == 1; }));
+    const auto tap = startTap(allKeys());
+
+    desktop->repeatKey(keyB);
+    desktop->repeatKey(keyB);
+    desktop->settle();
+
+    EXPECT_EQ(pressesSeen(keyB), 0);
+    EXPECT_EQ(hotKeyPresses, 1);
+    desktop->releaseKey(keyB);
+    desktop->pressKey(keyN);
+    EXPECT_TRUE(desktop->waitUntil([&] { return pressesSeen(keyN) == 1; }));
+    EXPECT_EQ(desktop->keysReceivedBy(editor), Keys{});
 }
 
 TEST_F(EventTapsContract, EachAutoRepeatOfADroppedKeyIsSeenAndDropped)

@@ -127,6 +127,21 @@ TEST_F(SimulatedAccessibilityTest, AnObserverCanHearWhatItDidNotAskFor)
     EXPECT_EQ(heard, (std::vector<std::string>{"AXWindowMoved"}));
 }
 
+TEST_F(SimulatedAccessibilityTest, ARemovedNotificationIsDroppedAlsoUnderWay)
+{
+    int heard = 0;
+    const auto observer = accessibility.createObserver(editor.process(), [&](std::string_view) { ++heard; }).value();
+    EXPECT_TRUE(observer->addNotification(element, axNames::moved).has_value());
+    observer->startDelivery();
+
+    desktop.moveWindow(window, {0.0, 0.0, 800.0, 600.0});
+    EXPECT_TRUE(observer->removeNotification(element, axNames::moved).has_value());
+    desktop.drain();
+
+    EXPECT_EQ(heard, 0);
+    EXPECT_FALSE(observer->removeNotification(element, axNames::moved).has_value());
+}
+
 TEST_F(SimulatedAccessibilityTest, AnObserverMayDestroyItselfInItsCallback)
 {
     std::unique_ptr<AxObserver> observer;

@@ -9,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/FatalError.h"
 #include "platform/simulated/Journal.h"
+#include "tests/support/FatalErrors.h"
 
 namespace quorvel {
 namespace {
@@ -109,12 +109,12 @@ TEST_F(SimulatedMainQueueTest, DroppedWorkNeverRunsAndMayAddWorkAsItGoes)
 
 TEST_F(SimulatedMainQueueTest, WorkThatNeverEndsIsFatal)
 {
-    const auto interceptor = interceptFatalErrors([](std::string_view message) { throw std::string(message); });
     std::function<void()> again = [&] { queue.async(again); };
     again();
 
-    EXPECT_THROW(queue.drain(), std::string);
-    EXPECT_THROW(static_cast<void>(queue.repeat(Seconds(0.0), [] {})), std::string);
+    EXPECT_EQ(fatalErrorOf([&] { queue.drain(); }), "The main queue never comes to rest");
+    EXPECT_EQ(fatalErrorOf([&] { static_cast<void>(queue.repeat(Seconds(0.0), [] {})); }),
+              "A repeated piece of work needs an interval above 0");
 }
 
 TEST_F(SimulatedMainQueueTest, OtherThreadsAddWorkForTheMainThread)

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/FatalError.h"
 #include "platform/simulated/SimulatedDesktop.h"
+#include "tests/support/FatalErrors.h"
 
 namespace quorvel {
 namespace {
@@ -38,9 +38,8 @@ TEST_F(SimulatedScreensTest, TheyComeGoAndChangeTheirSizeUnderTheSameIdentity)
 
 TEST_F(SimulatedScreensTest, AResizedOneMustExist)
 {
-    const auto interceptor = interceptFatalErrors([](std::string_view message) { throw std::string(message); });
 
-    EXPECT_THROW(screens.resize(99, {}, {}), std::string);
+    EXPECT_EQ(fatalErrorOf([&] { screens.resize(99, {}, {}); }), "No display has the id 99");
 }
 
 TEST_F(SimulatedScreensTest, GivenIdentitiesAreKeptAndMissingOnesAdded)

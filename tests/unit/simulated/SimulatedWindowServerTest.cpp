@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/FatalError.h"
 #include "platform/simulated/SimulatedDesktop.h"
+#include "tests/support/FatalErrors.h"
 
 namespace quorvel {
 namespace {
@@ -78,10 +78,12 @@ TEST_F(SimulatedWindowServerTest, TheEndOfTheFrontmostApplicationHandsTheKeyboar
 
 TEST_F(SimulatedWindowServerTest, AProcessIsThereOnce)
 {
-    const auto interceptor = interceptFatalErrors([](std::string_view message) { throw std::string(message); });
 
-    EXPECT_THROW(desktop.launch({editor.process(), "Other", ActivationPolicy::regular}), std::string);
-    EXPECT_THROW(desktop.launch({desktop.workspace.ownProcess(), "Other", ActivationPolicy::regular}), std::string);
+    EXPECT_EQ(fatalErrorOf([&] { desktop.launch({editor.process(), "Other", ActivationPolicy::regular}); }),
+              "Process 500 is running already");
+    EXPECT_EQ(
+        fatalErrorOf([&] { desktop.launch({desktop.workspace.ownProcess(), "Other", ActivationPolicy::regular}); }),
+        "Process 100 is running already");
 }
 
 TEST_F(SimulatedWindowServerTest, ProcessNumbersThatAreTakenArePassedOver)
