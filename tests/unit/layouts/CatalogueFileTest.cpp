@@ -161,8 +161,9 @@ TEST(CatalogueFile, ItsFramesNeedNoScalingForPictures)
 {
     for (const auto& layout : catalogue().layouts) {
         std::vector<UnitRect> frames;
-        std::ranges::transform(layout.windows, std::back_inserter(frames),
-                               [](const WindowModel& window) { return frameFromRecord(windowRecord(window)).value(); });
+        for (const auto& window : layout.windows) {
+            frames.push_back(frameFromRecord(windowRecord(window)).value());
+        }
         EXPECT_EQ(normalizedFrames(frames), frames) << layout.id;
     }
 }

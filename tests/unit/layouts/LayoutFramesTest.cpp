@@ -1,11 +1,6 @@
 #include "layouts/LayoutFrames.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <iterator>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -34,8 +29,9 @@ PropertyValue record(PropertyDictionary members)
 std::vector<UnitRect> normalized(const std::vector<WindowModel>& windows)
 {
     std::vector<UnitRect> frames;
-    std::ranges::transform(windows, std::back_inserter(frames),
-                           [](const WindowModel& window) { return frameFromRecord(windowRecord(window)).value(); });
+    for (const auto& window : windows) {
+        frames.push_back(frameFromRecord(windowRecord(window)).value());
+    }
     return normalizedFrames(std::move(frames));
 }
 

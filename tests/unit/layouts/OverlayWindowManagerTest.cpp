@@ -1,11 +1,7 @@
 #include "layouts/OverlayWindowManager.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <iterator>
-#include <optional>
 #include <string>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -45,7 +41,9 @@ protected:
     std::vector<ScreenPoint> placeOrigins(const ScreenRect& bounds, int count)
     {
         std::vector<ScreenPoint> origins;
-        std::generate_n(std::back_inserter(origins), count, [&] { return place(bounds).origin(); });
+        for (int number = 0; number < count; ++number) {
+            origins.push_back(place(bounds).origin());
+        }
         return origins;
     }
 

@@ -1,0 +1,73 @@
+#include "platform/x11/desktop/X11SystemColors.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <span>
+#include <system_error>
+#include <utility>
+
+#include <glib.h>
+
+namespace quorvel::x11 {
+
+namespace {
+
+struct KeyFileDeleter {
+    void operator()(GKeyFile* file) const { g_key_file_free(file); }
+};
+
+struct GlibDeleter {
+    void operator()(void* memory) const { g_free(memory); }
+};
+
+using KeyFile = std::unique_ptr<GKeyFile, KeyFileDeleter>;
+
+// A colour as "53,132,228", perhaps with an alpha behind it.
+std::optional<Color> colorOf(GKeyFile* file, const char* group, const char* key)
+{
+    g_key_file_set_list_separator(file, ',');
+    gsize count = 0;
+    const std::unique_ptr<gint, GlibDeleter> numbers(g_key_file_get_integer_list(file, group, key, &count, nullptr));
+    const std::span components(numbers.get(), count);
+    const bool isColor =
+        count >= 3 && std::ranges::all_of(components, [](int component) { return component >= 0 && component <= 255; });
+    if (!isColor) {
+        return std::nullopt;
+    }
+    return Color::bytes(components[0], components[1], components[2]);
+}
+
+std::optional<Color> readAccent(const std::filesystem::path& path)
+{
+    const KeyFile file(g_key_file_new());
+    if (g_key_file_load_from_file(file.get(), path.c_str(), G_KEY_FILE_NONE, nullptr) == FALSE) {
+        return std::nullopt;
+    }
+    if (const auto chosen = colorOf(file.get(), "General", "AccentColor")) {
+        return chosen;
+    }
+    return colorOf(file.get(), "Colors:Selection", "BackgroundNormal");
+}
+
+} // namespace
+
+std::filesystem::path X11SystemColors::plasmaSettingsFile()
+{
+    return std::filesystem::path(g_get_user_config_dir()) / "kdeglobals";
+}
+
+Color X11SystemColors::accent() const
+{
+    std::error_code error;
+    const auto changedAt = std::filesystem::last_write_time(plasmaSettings, error);
+    if (error) {
+        return blue();
+    }
+    if (std::exchange(readAt, changedAt) != changedAt) {
+        knownAccent = readAccent(plasmaSettings).value_or(blue());
+    }
+    return knownAccent;
+}
+
+} // namespace quorvel::x11
