@@ -1,7 +1,10 @@
 #include "layouts/LayoutShortcutsLegendView.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "layouts/FilledBorder.h"
 #include "platform/SystemColors.h"
