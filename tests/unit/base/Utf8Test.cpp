@@ -46,14 +46,20 @@ TEST(Utf8, TrimmingKeepsLettersMarksAndNumbersOfAnyScript)
     EXPECT_EQ(trimmedToAlphanumerics(" -a b- "), "a b");
     EXPECT_EQ(trimmedToAlphanumerics("«é½»"), "é½");
     EXPECT_EQ(trimmedToAlphanumerics("#\xCC\x81x"), "\xCC\x81x");
-    EXPECT_EQ(trimmedToAlphanumerics("\xFF" "Ⅳ" "\xFF"), "Ⅳ");
+    EXPECT_EQ(trimmedToAlphanumerics("\xFF"
+                                     "Ⅳ"
+                                     "\xFF"),
+              "Ⅳ");
     EXPECT_EQ(trimmedToAlphanumerics("#~ "), "");
     EXPECT_EQ(trimmedToAlphanumerics(""), "");
 }
 
 TEST(Utf8, InvalidBytesBecomeReplacementCharacters)
 {
-    EXPECT_EQ(validUtf8("a\xFF" "b"), "a\xEF\xBF\xBD" "b");
+    EXPECT_EQ(validUtf8("a\xFF"
+                        "b"),
+              "a\xEF\xBF\xBD"
+              "b");
     EXPECT_EQ(validUtf8("né"), "né");
 }
 
