@@ -117,6 +117,12 @@ void Connection::sync()
     PendingReply<xcb_get_input_focus_reply>(connection, xcb_get_input_focus(connection)).take();
 }
 
+void Connection::beginTurn()
+{
+    ++turnNumber;
+    flush();
+}
+
 Subscription Connection::addEventHandler(std::uint8_t type, EventHandler function)
 {
     auto handler = std::make_shared<Handler>(std::move(function));

@@ -82,6 +82,12 @@ public:
     // For the loop: the server went away and nobody was told yet.
     bool hasFailed() const { return !lost && xcb_connection_has_error(connection) != 0; }
 
+    // For the loop: it is about to wait. Sends what is waiting to be sent.
+    void beginTurn();
+
+    // Counts the loop's turns. What was read in this turn need not be read again in it.
+    std::uint64_t turn() const { return turnNumber; }
+
     bool isLost() const { return lost; }
 
 private:
@@ -109,6 +115,7 @@ private:
     std::array<Handlers, 128> handlers;
     Reply<xcb_generic_event_t> queuedEvent;
     std::function<void()> onLost;
+    std::uint64_t turnNumber = 0;
     bool lost = false;
 };
 

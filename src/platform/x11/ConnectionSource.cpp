@@ -11,7 +11,7 @@ ConnectionSource::ConnectionSource(Connection& connection) : connection(connecti
 
 bool ConnectionSource::hasWork()
 {
-    connection.flush();
+    connection.beginTurn();
     return connection.hasQueuedEvent() || connection.hasFailed();
 }
 

@@ -1,0 +1,73 @@
+#include "platform/x11/Activation.h"
+
+#include "platform/x11/ClientWindows.h"
+#include "platform/x11/Connection.h"
+#include "platform/x11/WindowManager.h"
+
+namespace quorvel::x11 {
+
+namespace {
+
+bool isForPeople(const WindowSnapshot& window)
+{
+    return window.identity.kind != WindowKind::dock && window.identity.kind != WindowKind::desktop;
+}
+
+} // namespace
+
+Activation::Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager)
+    : connection(connection),
+      windows(windows),
+      windowManager(windowManager),
+      activeWindowChanges(
+          connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
+              if (event.window == this->connection.root() && event.atom == this->connection.atoms().netActiveWindow) {
+                  lastRaised = XCB_NONE;
+              }
+          }))
+{}
+
+// Some window managers refuse to activate a window of another desktop, so that the desktop comes first.
+void Activation::raise(xcb_window_t window)
+{
+    const auto* const snapshot = windows.find(window);
+    if (snapshot == nullptr) {
+        return;
+    }
+    if (!windows.isOnCurrentDesktop(*snapshot)) {
+        windowManager.showDesktop(snapshot->desktop);
+    }
+    windowManager.activate(window);
+    lastRaised = window;
+}
+
+void Activation::activate(ProcessId process)
+{
+    if (const auto window = frontWindow(process); window != XCB_NONE) {
+        raise(window);
+    }
+}
+
+xcb_window_t Activation::frontWindow(ProcessId process)
+{
+    if (const auto* const raised = windows.find(lastRaised); raised != nullptr && raised->identity.process == process) {
+        return lastRaised;
+    }
+    // The best is one that can be seen, then one of another desktop, then a minimized one; of equals the frontmost.
+    xcb_window_t best = XCB_NONE;
+    int bestRank = 0;
+    for (const auto window : windows.frontToBack()) {
+        const auto* const snapshot = windows.find(window);
+        if (snapshot == nullptr || snapshot->identity.process != process || !isForPeople(*snapshot)) {
+            continue;
+        }
+        const int rank = snapshot->isHidden ? 1 : windows.isOnCurrentDesktop(*snapshot) ? 3 : 2;
+        if (rank > bestRank) {
+            bestRank = rank;
+            best = window;
+        }
+    }
+    return best;
+}
+
+} // namespace quorvel::x11

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include "base/Subscription.h"
+#include "platform/ProcessId.h"
+
+namespace quorvel::x11 {
+
+class ClientWindows;
+class Connection;
+class WindowManager;
+
+// Brings windows and applications forward.
+class Activation {
+public:
+    Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager);
+
+    // Raises the window and gives it the keyboard, on whatever desktop it is.
+    void raise(xcb_window_t window);
+
+    // The same for the front window of a process. A window of it that was raised last is its front window, even while
+    // the window manager has not got round to raising it. Ignored for a process without windows.
+    void activate(ProcessId process);
+
+private:
+    xcb_window_t frontWindow(ProcessId process);
+
+    Connection& connection;
+    ClientWindows& windows;
+    WindowManager& windowManager;
+    xcb_window_t lastRaised = XCB_NONE; // until another window becomes active
+    Subscription activeWindowChanges;
+};
+
+} // namespace quorvel::x11

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "base/Subscription.h"
+#include "platform/x11/WindowReader.h"
+
+namespace quorvel::x11 {
+
+class Connection;
+class RootProperties;
+
+// The windows that the window manager manages. Each is read at most once in a turn of the loop, however many questions
+// about it that turn has.
+class ClientWindows {
+public:
+    ClientWindows(Connection& connection, RootProperties& rootProperties);
+
+    // The window as of this turn; null if it vanished. Valid until the next call of a method.
+    const WindowSnapshot* find(xcb_window_t window);
+
+    // All that have not vanished, front to back.
+    std::vector<xcb_window_t> frontToBack();
+
+    // The window with the keyboard focus, as of the last event that was handled; or XCB_NONE.
+    xcb_window_t activeWindow();
+
+    bool isOnCurrentDesktop(const WindowSnapshot& window);
+
+private:
+    void beginTurn();
+    void read(const std::vector<xcb_window_t>& windows);
+
+    Connection& connection;
+    RootProperties& rootProperties;
+    WindowReader reader;
+    std::unordered_map<xcb_window_t, std::optional<WindowSnapshot>> snapshots;
+    std::optional<std::vector<xcb_window_t>> order;
+    std::uint64_t turn = 0;
+    bool haveClientsChanged = false;
+    Subscription listChanges;
+};
+
+} // namespace quorvel::x11

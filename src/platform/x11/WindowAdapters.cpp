@@ -1,0 +1,22 @@
+#include "platform/x11/WindowAdapters.h"
+
+#include <utility>
+
+namespace quorvel::x11 {
+
+WindowAdapters::WindowAdapters(Connection& connection, MainQueue& mainQueue, X11Workspace::Lifecycle lifecycle)
+    : rootProperties(connection),
+      windowManager(connection, rootProperties),
+      barrier(connection, windowManager),
+      windows(connection, rootProperties),
+      activation(connection, windows, windowManager),
+      placements(connection, mainQueue, windows, windowManager, barrier),
+      watcher(connection, mainQueue, windows),
+      desktopEntries(DesktopEntries::standardDirectories()),
+      screens(connection, mainQueue, rootProperties),
+      windowList(windows, screens),
+      accessibility(windows, windowManager, activation, placements, watcher, screens),
+      workspace(mainQueue, windows, activation, desktopEntries, std::move(lifecycle))
+{}
+
+} // namespace quorvel::x11

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/x11/Activation.h"
+#include "platform/x11/ClientWindows.h"
+#include "platform/x11/DesktopEntries.h"
+#include "platform/x11/Placements.h"
+#include "platform/x11/RootProperties.h"
+#include "platform/x11/WindowManager.h"
+#include "platform/x11/WindowManagerBarrier.h"
+#include "platform/x11/WindowWatcher.h"
+#include "platform/x11/X11Accessibility.h"
+#include "platform/x11/X11Screens.h"
+#include "platform/x11/X11WindowList.h"
+#include "platform/x11/X11Workspace.h"
+
+namespace quorvel::x11 {
+
+// The adapters for screens, windows and applications, and what they share.
+struct WindowAdapters {
+    WindowAdapters(Connection& connection, MainQueue& mainQueue, X11Workspace::Lifecycle lifecycle);
+
+    RootProperties rootProperties;
+    WindowManager windowManager;
+    WindowManagerBarrier barrier;
+    ClientWindows windows;
+    Activation activation;
+    Placements placements;
+    WindowWatcher watcher;
+    DesktopEntries desktopEntries;
+
+    X11Screens screens;
+    X11WindowList windowList;
+    X11Accessibility accessibility;
+    X11Workspace workspace;
+};
+
+} // namespace quorvel::x11

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include <xcb/xcb.h>
+
+#include "base/Subscription.h"
+
+namespace quorvel::x11 {
+
+class Connection;
+class RootProperties;
+
+// The window manager that runs at present, and what can be asked of it. Requests are sent at once and answered by
+// nothing but what the window manager then does.
+class WindowManager {
+public:
+    WindowManager(Connection& connection, RootProperties& rootProperties);
+
+    // A different one, or one started anew, has a different number; 0 where none runs.
+    xcb_window_t identity();
+
+    bool supports(xcb_atom_t feature);
+
+    // Gravity is that of the frame's upper left corner: the size is the client's, the position the frame's. What is
+    // absent stays.
+    struct Geometry {
+        std::optional<std::int32_t> x;
+        std::optional<std::int32_t> y;
+        std::optional<std::int32_t> width;
+        std::optional<std::int32_t> height;
+
+        bool operator==(const Geometry&) const = default;
+    };
+    void moveAndResize(xcb_window_t window, const Geometry& geometry);
+
+    void leaveMaximizedAndFullscreen(xcb_window_t window);
+    void minimize(xcb_window_t window);
+    void showDesktop(std::uint32_t desktop);
+
+    // Raises the window, gives it the keyboard and shows it if it is minimized, on the current desktop.
+    void activate(xcb_window_t window);
+
+    // Lets it say, as a property, what frame the window would get.
+    void requestFrameExtents(xcb_window_t window);
+
+private:
+    void follow();
+    void send(xcb_window_t window, xcb_atom_t type, const std::array<std::uint32_t, 5>& data);
+
+    Connection& connection;
+    RootProperties& rootProperties;
+    xcb_window_t checkWindow = XCB_NONE;
+    bool isGone = false;
+    Subscription checkWindowSelection;
+    Subscription checkWindowDestruction;
+};
+
+} // namespace quorvel::x11

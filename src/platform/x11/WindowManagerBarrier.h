@@ -1,0 +1,45 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include <xcb/xcb.h>
+
+#include "base/Subscription.h"
+
+namespace quorvel::x11 {
+
+class Connection;
+class WindowManager;
+
+// Tells when the window manager has carried out what it was asked to do. It takes messages one after the other, and one
+// of them has a visible answer even for a window that it does not manage: what frame that window would get.
+class WindowManagerBarrier {
+public:
+    WindowManagerBarrier(Connection& connection, WindowManager& windowManager);
+    WindowManagerBarrier(const WindowManagerBarrier&) = delete;
+    WindowManagerBarrier& operator=(const WindowManagerBarrier&) = delete;
+    ~WindowManagerBarrier();
+
+    // Whether the present window manager is known to answer. Some only say that they do; so each is tried once, and
+    // known from its first answer on.
+    bool isSupported();
+
+    // Calls back from the main loop once everything sent so far has been carried out; never if the window manager
+    // goes before that.
+    void whenReached(std::function<void()> callback);
+
+private:
+    void handleAnswer();
+
+    Connection& connection;
+    WindowManager& windowManager;
+    xcb_window_t window;
+    xcb_window_t askedManager = XCB_NONE;
+    xcb_window_t answeringManager = XCB_NONE;
+    std::deque<std::function<void()>> waiting; // answers come in the order of the questions
+    Subscription selection;
+    Subscription answers;
+};
+
+} // namespace quorvel::x11

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+#include "platform/x11/WindowSnapshot.h"
+
+namespace quorvel::x11 {
+
+class Connection;
+
+// Reads windows, many at the price of one: all requests are sent before the first reply is awaited.
+class WindowReader {
+public:
+    explicit WindowReader(Connection& connection) : connection(connection) {}
+
+    // One entry for each window, in their order; absent for those that vanished. Costs one round trip, and up to three
+    // more where some window's frame is not described by properties.
+    std::vector<std::optional<WindowSnapshot>> read(std::span<const xcb_window_t> windows);
+
+    // The children of the root, bottom to top.
+    std::vector<xcb_window_t> topLevels();
+
+    // For each window the ancestor that is a child of the root, or XCB_NONE. `parents` are the windows' parents.
+    std::vector<xcb_window_t> topLevelAncestors(std::span<const xcb_window_t> windows,
+                                                std::span<const xcb_window_t> parents);
+
+    // Forgets the identities of all windows but these.
+    void forgetAllBut(std::span<const xcb_window_t> windows);
+
+private:
+    void readIdentities(std::span<const xcb_window_t> windows);
+    void measureFrames(std::span<const xcb_window_t> windows, std::vector<std::optional<WindowSnapshot>>& snapshots,
+                       std::span<const std::size_t> undescribed);
+    WindowKind kindOf(std::span<const std::uint32_t> types) const;
+    ProcessId clientNumber(xcb_window_t window) const;
+
+    Connection& connection;
+    std::map<xcb_window_t, WindowIdentity> identities;
+};
+
+} // namespace quorvel::x11

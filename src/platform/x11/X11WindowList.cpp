@@ -1,0 +1,45 @@
+#include "platform/x11/X11WindowList.h"
+
+#include "platform/x11/ClientWindows.h"
+#include "platform/x11/X11Screens.h"
+
+namespace quorvel::x11 {
+
+namespace {
+
+// In the numbering of window levels that the portable program knows.
+int layerOf(WindowKind kind)
+{
+    switch (kind) {
+    case WindowKind::normal:
+    case WindowKind::dialog:
+    case WindowKind::desktop: // never listed
+        return 0;
+    case WindowKind::utility:
+        return 3;
+    case WindowKind::dock:
+        return 20;
+    case WindowKind::other:
+        break;
+    }
+    return 8;
+}
+
+} // namespace
+
+std::vector<WindowListEntry> X11WindowList::onScreenWindows()
+{
+    std::vector<WindowListEntry> entries;
+    for (const auto window : windows.frontToBack()) {
+        const auto* const snapshot = windows.find(window);
+        if (snapshot == nullptr || snapshot->mapState != XCB_MAP_STATE_VIEWABLE || snapshot->isHidden ||
+            snapshot->identity.kind == WindowKind::desktop || !windows.isOnCurrentDesktop(*snapshot)) {
+            continue;
+        }
+        entries.push_back({snapshot->identity.process, layerOf(snapshot->identity.kind),
+                           screens.coordinates().axRect(snapshot->outer())});
+    }
+    return entries;
+}
+
+} // namespace quorvel::x11

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/WindowList.h"
+
+namespace quorvel::x11 {
+
+class ClientWindows;
+class X11Screens;
+
+// The windows of the window manager's list, in the order of their frames.
+class X11WindowList : public WindowList {
+public:
+    X11WindowList(ClientWindows& windows, X11Screens& screens) : windows(windows), screens(screens) {}
+
+    std::vector<WindowListEntry> onScreenWindows() override;
+
+private:
+    ClientWindows& windows;
+    X11Screens& screens;
+};
+
+} // namespace quorvel::x11
