@@ -169,10 +169,10 @@ std::vector<LayoutShortcutEntry> LayoutsManager::legendEntries() const
     std::vector<LayoutShortcutEntry> entries;
     for (const auto& layout : all) {
         if (const auto found = shortcuts.find(layout.id); found != shortcuts.end()) {
-            entries.push_back({found->second, layout.name, current != nullptr && current->id == layout.id});
+            const auto place = std::ranges::upper_bound(entries, found->second, {}, &LayoutShortcutEntry::digit);
+            entries.insert(place, {found->second, layout.name, current != nullptr && current->id == layout.id});
         }
     }
-    std::ranges::stable_sort(entries, {}, &LayoutShortcutEntry::digit);
     return entries;
 }
 

@@ -18,10 +18,12 @@ namespace quorvel {
 //          │  bottom_left     │
 //   (0, 0) └─────────┴────────┘ (1, 0)
 struct WindowModel {
+    // NOLINTBEGIN(readability-identifier-naming)
     double bottom_left_x = 0.0;
     double bottom_left_y = 0.0;
     double top_right_x = 0.0;
     double top_right_y = 0.0;
+    // NOLINTEND(readability-identifier-naming)
 
     bool operator==(const WindowModel&) const = default;
 };

@@ -25,11 +25,15 @@ std::vector<std::string> wordsFor(ClientProcess::Kind kind, const std::string& t
 } // namespace
 
 ClientProcess::ClientProcess(const XServer& server, XClient& client, Kind kind, const std::string& title)
+    : ClientProcess(server, client, wordsFor(kind, title))
+{}
+
+ClientProcess::ClientProcess(const XServer& server, XClient& client, const std::vector<std::string>& words)
     : client(client)
 {
     const auto before = client.managedWindows();
-    child = std::make_unique<ChildProcess>(Command{wordsFor(kind, title), server.clientEnvironment(), {}});
-    client.waitFor("the window of " + nameOf(kind), [&] {
+    child = std::make_unique<ChildProcess>(Command{words, server.clientEnvironment(), {}});
+    client.waitFor("the window of " + words.front(), [&] {
         for (const xcb_window_t window : client.managedWindows()) {
             if (std::ranges::count(before, window) == 0 && client.processOf(window) == child->id() &&
                 client.isViewable(window)) {

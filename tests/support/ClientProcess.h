@@ -23,6 +23,9 @@ public:
     // Starts the program and waits until its window is visible and in the window manager's list. The title is honoured
     // by all but Mousepad.
     ClientProcess(const XServer& server, XClient& client, Kind kind, const std::string& title = "Sample");
+
+    // The same for any program with its arguments.
+    ClientProcess(const XServer& server, XClient& client, const std::vector<std::string>& words);
     ClientProcess(const ClientProcess&) = delete;
     ~ClientProcess();
 

@@ -332,6 +332,13 @@ xcb_window_t XClient::activeWindow()
     return values.empty() ? XCB_NONE : values.front();
 }
 
+void XClient::activate(xcb_window_t window)
+{
+    constexpr std::uint32_t sourcePager = 2; // applications are refused by some window managers
+    sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {sourcePager, XCB_CURRENT_TIME, 0, 0, 0});
+    waitFor("a window to be active", [&] { return activeWindow() == window; });
+}
+
 bool XClient::hasState(xcb_window_t window, const std::string& state)
 {
     return std::ranges::count(property(window, "_NET_WM_STATE"), atom(state)) > 0;

@@ -94,6 +94,9 @@ public:
     // The clients that the window manager lists, in order of mapping.
     std::vector<xcb_window_t> managedWindows();
     xcb_window_t activeWindow();
+
+    // Asks the window manager to give the window the focus, as a task bar does, and waits until it has.
+    void activate(xcb_window_t window);
     bool hasState(xcb_window_t window, const std::string& state);
 
     // The process that made the window, as the server knows it; 0 when unknown.

@@ -59,6 +59,7 @@ std::optional<HotKeyId> SimulatedHotKeys::idOf(Combination combination) const
 std::vector<SimulatedHotKeys::Combination> SimulatedHotKeys::registered() const
 {
     std::vector<Combination> result;
+    result.reserve(registrations.size());
     for (const auto& [ref, registration] : registrations) {
         result.push_back(registration.combination);
     }

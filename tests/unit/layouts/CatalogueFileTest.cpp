@@ -161,9 +161,8 @@ TEST(CatalogueFile, ItsFramesNeedNoScalingForPictures)
 {
     for (const auto& layout : catalogue().layouts) {
         std::vector<UnitRect> frames;
-        for (const auto& window : layout.windows) {
-            frames.push_back(frameFromRecord(windowRecord(window)).value());
-        }
+        std::ranges::transform(layout.windows, std::back_inserter(frames),
+                               [](const WindowModel& window) { return frameFromRecord(windowRecord(window)).value(); });
         EXPECT_EQ(normalizedFrames(frames), frames) << layout.id;
     }
 }

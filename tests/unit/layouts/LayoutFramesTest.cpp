@@ -1,6 +1,11 @@
 #include "layouts/LayoutFrames.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -29,9 +34,8 @@ PropertyValue record(PropertyDictionary members)
 std::vector<UnitRect> normalized(const std::vector<WindowModel>& windows)
 {
     std::vector<UnitRect> frames;
-    for (const auto& window : windows) {
-        frames.push_back(frameFromRecord(windowRecord(window)).value());
-    }
+    std::ranges::transform(windows, std::back_inserter(frames),
+                           [](const WindowModel& window) { return frameFromRecord(windowRecord(window)).value(); });
     return normalizedFrames(std::move(frames));
 }
 

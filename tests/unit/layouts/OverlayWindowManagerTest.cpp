@@ -1,7 +1,11 @@
 #include "layouts/OverlayWindowManager.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -41,9 +45,7 @@ protected:
     std::vector<ScreenPoint> placeOrigins(const ScreenRect& bounds, int count)
     {
         std::vector<ScreenPoint> origins;
-        for (int number = 0; number < count; ++number) {
-            origins.push_back(place(bounds).origin());
-        }
+        std::generate_n(std::back_inserter(origins), count, [&] { return place(bounds).origin(); });
         return origins;
     }
 

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "e2e/UnitFrame.h"
+#include "support/ProgramUnderTest.h"
+#include "support/TestDisplay.h"
+
+namespace quorvel::e2e {
+
+// The program at work on a test's display, seen from outside: its windows on the screen, its lines, its keys.
+class RunningQuorvel {
+public:
+    // Starts the program and waits until its hot keys are there. The configuration folder outlives it.
+    RunningQuorvel(xtest::TestDisplay& display, const std::filesystem::path& executable,
+                   const xtest::TemporaryDirectory& configuration);
+
+    xtest::ProgramUnderTest& program() { return running; }
+
+    // The combination that shows and hides the overlay: Command-Shift-O.
+    static const xtest::KeyCombination& hotKey();
+    void pressHotKey();
+
+    // The program's windows that are on the screen: layout frames and the legend.
+    std::vector<xtest::PixelRect> overlayRects();
+
+    // Waits until exactly these frames (and perhaps the legend) are on the screen.
+    void waitForFrames(const UnitFrames& frames, const xtest::PixelRect& area);
+    void waitForNoOverlay();
+
+    // Waits until the window's outer rectangle is the frame's. Windows that grow in steps may stay below it by less
+    // than a step. Returns the rectangle.
+    xtest::PixelRect waitUntilPlaced(xcb_window_t window, const xtest::PixelRect& expected);
+
+    // Waits until nothing of the overlay is left and another program could take the keyboard.
+    void waitUntilIdle();
+
+    // Ends the program by the signal; afterwards the display must be as if it had never run. Returns the exit status.
+    int end(int signal = SIGTERM);
+
+    // What end() checks after the program has ended by other means.
+    void expectNothingLeft();
+
+private:
+    bool showsExactly(const UnitFrames& frames, const xtest::PixelRect& area);
+
+    xtest::TestDisplay& display;
+    xtest::ProgramUnderTest running;
+};
+
+} // namespace quorvel::e2e

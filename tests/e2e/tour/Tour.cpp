@@ -1,0 +1,161 @@
+#include "e2e/tour/Tour.h"
+
+#include <fmt/format.h>
+#include <poll.h>
+
+#include "support/Patience.h"
+#include "support/Screenshot.h"
+
+namespace quorvel::tour {
+namespace {
+
+using xtest::PixelRect;
+
+constexpr auto hotKeyName = "Command-Shift-O";
+
+} // namespace
+
+Tour::Tour(const std::filesystem::path& program, const std::filesystem::path& pictures)
+    : pictures(pictures), quorvel(desk.display, program, configuration)
+{
+    desk.display.client.watchPainting();
+    desk.openTray();
+}
+
+void Tour::perform()
+{
+    try {
+        takePicture("1-desktop", desk.firstMonitor());
+        showAndPlace();
+        stepThroughLayouts();
+        jumpByDigit();
+        useSecondMonitor();
+        cancel();
+        finish();
+    } catch (const xtest::HarnessError&) {
+        takePicture("failure", desk.firstMonitor());
+    }
+}
+
+void Tour::showAndPlace()
+{
+    desk.display.client.activate(desk.letter().window());
+    expectFrames(hotKeyName, "show layout 1", e2e::fullScreen, desk.workArea(), [&] { quorvel.pressHotKey(); });
+    expectFrames("Down, Down", "show layout 3", e2e::sideBySide, desk.workArea(), [&] {
+        desk.display.keyboard.tap(XKB_KEY_Down);
+        desk.display.keyboard.tap(XKB_KEY_Down);
+    });
+    takePicture("2-overlay", desk.firstMonitor());
+    expectPlacement("A", "place the letter", desk.letter().window(), e2e::sideBySide[0].within(desk.workArea()),
+                    [&] { desk.display.keyboard.tap(XKB_KEY_a); });
+}
+
+void Tour::stepThroughLayouts()
+{
+    desk.display.client.activate(desk.terminal().window());
+    expectFrames(hotKeyName, "show layout 3 again", e2e::sideBySide, desk.workArea(), [&] { quorvel.pressHotKey(); });
+    expectFrames("Up", "show layout 2", e2e::centered, desk.workArea(), [&] { desk.display.keyboard.tap(XKB_KEY_Up); });
+    takePicture("3-other-layout", desk.firstMonitor());
+}
+
+void Tour::jumpByDigit()
+{
+    expectFrames("6", "jump to layout 6", e2e::fourTiles, desk.workArea(),
+                 [&] { desk.display.keyboard.tap(XKB_KEY_6); });
+    takePicture("4-jump", desk.firstMonitor());
+    expectPlacement("D", "place the terminal", desk.terminal().window(), e2e::fourTiles[3].within(desk.workArea()),
+                    [&] { desk.display.keyboard.tap(XKB_KEY_d); });
+    desk.display.client.activate(desk.planner().window());
+    quorvel.pressHotKey();
+    expectPlacement(fmt::format("{}, B", hotKeyName), "place the planner", desk.planner().window(),
+                    e2e::fourTiles[1].within(desk.workArea()), [&] { desk.display.keyboard.tap(XKB_KEY_b); });
+    takePicture("5-placed", desk.firstMonitor());
+}
+
+void Tour::useSecondMonitor()
+{
+    desk.switchSecondMonitorOn();
+    quorvel.pressHotKey();
+    expectFrames(fmt::format("{}, Right", hotKeyName), "show on monitor 2", e2e::fourTiles, desk.secondMonitor(),
+                 [&] { desk.display.keyboard.tap(XKB_KEY_Right); });
+    takePicture("6-second-monitor", desk.bothMonitors());
+    expectFrames("2", "jump to layout 2 there", e2e::centered, desk.secondMonitor(),
+                 [&] { desk.display.keyboard.tap(XKB_KEY_2); });
+    expectPlacement("A", "place the planner there", desk.planner().window(),
+                    e2e::centered[0].within(desk.secondMonitor()), [&] { desk.display.keyboard.tap(XKB_KEY_a); });
+    takePicture("7-placed-on-second-monitor", desk.bothMonitors());
+}
+
+void Tour::cancel()
+{
+    desk.display.client.activate(desk.letter().window());
+    const auto before = desk.display.client.outerRect(desk.letter().window()).value_or(PixelRect());
+    expectFrames(hotKeyName, "show layout 2", e2e::centered, desk.workArea(), [&] { quorvel.pressHotKey(); });
+    expectPlacement("Escape", "leave all as it is", desk.letter().window(), before, [&] {
+        desk.display.keyboard.tap(XKB_KEY_Escape);
+        quorvel.waitForNoOverlay();
+    });
+}
+
+void Tour::finish()
+{
+    step("(end)", "give every key back", "exit status 0", [&] {
+        const int status = quorvel.end();
+        const auto text = fmt::format("exit status {}", status);
+        if (status != 0) {
+            throw xtest::HarnessError(text);
+        }
+        return text;
+    });
+}
+
+void Tour::step(const std::string& key, const std::string& effect, const std::string& expected,
+                const std::function<std::string()>& step)
+{
+    try {
+        results.add({.key = key, .effect = effect, .expected = expected, .actual = step(), .passed = true});
+    } catch (const xtest::HarnessError& error) {
+        results.add({.key = key, .effect = effect, .expected = expected, .actual = error.what(), .passed = false});
+        throw;
+    }
+}
+
+void Tour::expectFrames(const std::string& key, const std::string& effect, const e2e::UnitFrames& frames,
+                        const PixelRect& area, const std::function<void()>& keys)
+{
+    const auto text = fmt::format("{} frame{} on {}", frames.size(), frames.size() == 1 ? "" : "s", describe(area));
+    step(key, effect, text, [&] {
+        keys();
+        quorvel.waitForFrames(frames, area);
+        return text;
+    });
+}
+
+void Tour::expectPlacement(const std::string& key, const std::string& effect, xcb_window_t window,
+                           const PixelRect& expected, const std::function<void()>& keys)
+{
+    step(key, effect, describe(expected), [&] {
+        keys();
+        const auto actual = quorvel.waitUntilPlaced(window, expected);
+        quorvel.waitUntilIdle();
+        return describe(actual);
+    });
+}
+
+void Tour::takePicture(const std::string& name, const PixelRect& part)
+{
+    constexpr int stillness = 250; // milliseconds without painting
+    auto& client = desk.display.client;
+    client.sync();
+    do {
+        while (client.handleEvents()) {
+        }
+        pollfd entry{.fd = xcb_get_file_descriptor(client.connection()), .events = POLLIN, .revents = 0};
+        if (poll(&entry, 1, stillness) == 0) {
+            break;
+        }
+    } while (true);
+    xtest::Screenshot(client, part).writePng(pictures / (name + ".png"));
+}
+
+} // namespace quorvel::tour
