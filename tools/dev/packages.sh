@@ -8,14 +8,14 @@ debianPackages() {
         echo libfmt-dev nlohmann-json3-dev libutf8proc-dev libgtest-dev libgmock-dev
         ;;
     x11)
-        echo qt6-base-dev libglib2.0-dev libplist-dev libcairo2-dev libpango1.0-dev libxkbcommon-dev libxkbcommon-x11-dev
+        echo qt6-base-dev libglib2.0-dev libcairo2-dev libpango1.0-dev libxkbcommon-dev libxkbcommon-x11-dev
         echo libxcb1-dev libxcb-randr0-dev libxcb-res0-dev libxcb-shape0-dev libxcb-xfixes0-dev libxcb-xinput-dev
         echo libxcb-render0-dev libxcb-render-util0-dev libxcb-xkb-dev libxcb-keysyms1-dev libxcb-icccm4-dev
         # the tests that are built beside them
         echo libxcb-damage0-dev libxcb-xtest0-dev
         ;;
     tests)
-        echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils xkb-data dbus-daemon dbus fonts-dejavu-core
+        echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils x11-xserver-utils xkb-data dbus-daemon dbus fonts-dejavu-core
         echo openbox metacity xfwm4 icewm fluxbox i3-wm kwin-x11 breeze
         echo picom xterm mousepad trayer adwaita-icon-theme
         ;;

@@ -16,7 +16,7 @@ KeyEvents::KeyEvents(Connection& connection, const Keyboard& keyboard) : connect
 std::set<xcb_keycode_t> KeyEvents::heldKeys() const
 {
     std::set<xcb_keycode_t> keys;
-    for (const auto& [keycode, time] : held) {
+    for (const auto& [keycode, key] : held) {
         keys.insert(keycode);
     }
     return keys;
@@ -28,15 +28,11 @@ void KeyEvents::handlePress(const xcb_key_press_event_t& event)
         return; // typed into a window of this program
     }
     latest = event.time;
-    const bool isModifier = keyboard.mapping().isModifier(event.detail);
-    const KeyStroke stroke{isModifier ? KeyStroke::Kind::press : notePress(event), event.detail, event.state,
-                           event.time};
+    KeyStroke stroke{KeyStroke::Kind::press, event.detail, event.state, event.time};
     auto outcome = StrokeOutcome::untaken;
-    if (!isModifier && hotKeyHandler) {
-        outcome = hotKeyHandler(stroke);
-    }
-    if (!isModifier && outcome == StrokeOutcome::untaken && tapHandler) {
-        outcome = tapHandler(stroke);
+    if (!keyboard.mapping().isModifier(event.detail)) {
+        stroke.kind = notePress(event);
+        outcome = lead(stroke);
     }
     if (follower) {
         follower(stroke, outcome);
@@ -55,13 +51,34 @@ void KeyEvents::handleRelease(const xcb_key_release_event_t& event)
     }
 }
 
+StrokeOutcome KeyEvents::lead(const KeyStroke& stroke)
+{
+    if (offerToHotKeys(stroke) == StrokeOutcome::taken) {
+        return StrokeOutcome::taken;
+    }
+    return tapHandler ? tapHandler(stroke) : StrokeOutcome::untaken;
+}
+
+StrokeOutcome KeyEvents::offerToHotKeys(const KeyStroke& stroke)
+{
+    if (stroke.kind == KeyStroke::Kind::autoRepeat) {
+        return held[stroke.keycode].isHotKey ? StrokeOutcome::taken : StrokeOutcome::untaken;
+    }
+    const auto outcome = hotKeyHandler ? hotKeyHandler(stroke) : StrokeOutcome::untaken;
+    if (const auto key = held.find(stroke.keycode); key != held.end()) { // the handler may have let go of all keys
+        key->second.isHotKey = outcome == StrokeOutcome::taken;
+    }
+    return outcome;
+}
+
 KeyStroke::Kind KeyEvents::notePress(const xcb_key_press_event_t& event)
 {
     // No keyboard waits this long before it repeats; a release got lost then, and the key went down anew.
     constexpr xcb_timestamp_t longestPause = 3000; // ms
-    const auto [key, isNew] = held.try_emplace(event.detail, event.time);
-    const bool isRepeat = !isNew && event.time - key->second < longestPause;
-    key->second = event.time;
+    const auto [entry, isNew] = held.try_emplace(event.detail);
+    HeldKey& key = entry->second;
+    const bool isRepeat = !isNew && event.time - key.time < longestPause;
+    key.time = event.time;
     return isRepeat ? KeyStroke::Kind::autoRepeat : KeyStroke::Kind::press;
 }
 

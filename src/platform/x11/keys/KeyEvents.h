@@ -35,8 +35,9 @@ public:
 
     KeyEvents(Connection& connection, const Keyboard& keyboard);
 
-    // Presses and auto-repeats go to the hot keys first, and if they do not take them, to the taps. Modifiers go to
-    // neither.
+    // Presses go to the hot keys first, and if they do not take them, to the taps. Auto-repeats follow their press:
+    // those of a hot key go to nobody, even when its modifiers are up by then, and all others to the taps. Modifiers go
+    // to neither.
     void setHotKeyHandler(PressHandler handler) { hotKeyHandler = std::move(handler); }
     void setTapHandler(PressHandler handler) { tapHandler = std::move(handler); }
 
@@ -52,8 +53,15 @@ public:
     void forgetHeldKeys() { held.clear(); }
 
 private:
+    struct HeldKey {
+        xcb_timestamp_t time = XCB_CURRENT_TIME; // of the latest press or repeat
+        bool isHotKey = false;
+    };
+
     void handlePress(const xcb_key_press_event_t& event);
     void handleRelease(const xcb_key_release_event_t& event);
+    StrokeOutcome lead(const KeyStroke& stroke);
+    StrokeOutcome offerToHotKeys(const KeyStroke& stroke);
     KeyStroke::Kind notePress(const xcb_key_press_event_t& event);
 
     Connection& connection;
@@ -61,7 +69,7 @@ private:
     PressHandler hotKeyHandler;
     PressHandler tapHandler;
     Follower follower;
-    std::map<xcb_keycode_t, xcb_timestamp_t> held; // with the time of the latest press or repeat
+    std::map<xcb_keycode_t, HeldKey> held;
     xcb_timestamp_t latest = XCB_CURRENT_TIME;
     std::vector<Subscription> subscriptions;
 };

@@ -28,6 +28,7 @@ public:
     explicit KeyGrabs(Connection& connection) : connection(connection) {}
     KeyGrabs(const KeyGrabs&) = delete;
     KeyGrabs& operator=(const KeyGrabs&) = delete;
+    ~KeyGrabs() = default;
 
     // Takes combinations, however many, in one round trip. Answers those that another program holds.
     Combinations take(const Combinations& combinations);

@@ -11,6 +11,8 @@ class X11EventTaps;
 class X11EventTap final : public EventTap {
 public:
     X11EventTap(X11EventTaps& owner, const EventTapDescription& description, EventTapCallback callback);
+    X11EventTap(const X11EventTap&) = delete;
+    X11EventTap& operator=(const X11EventTap&) = delete;
     ~X11EventTap() override;
 
     bool createRunLoopSource() override;

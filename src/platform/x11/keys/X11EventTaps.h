@@ -19,6 +19,8 @@ class X11EventTap;
 class X11EventTaps final : public EventTaps {
 public:
     X11EventTaps(Keyboard& keyboard, KeyGrabs& grabs, KeyboardGrab& keyboardGrab, KeyEvents& events);
+    X11EventTaps(const X11EventTaps&) = delete;
+    X11EventTaps& operator=(const X11EventTaps&) = delete;
     ~X11EventTaps() override;
 
     std::unique_ptr<EventTap> createTap(const EventTapDescription& description, EventTapCallback callback) override;

@@ -125,7 +125,7 @@ StrokeOutcome X11HotKeys::handlePress(const KeyStroke& stroke)
     if (hotKey == nullptr) {
         return StrokeOutcome::untaken;
     }
-    if (stroke.kind == KeyStroke::Kind::press && handler) {
+    if (handler) {
         const auto called = handler; // it may remove itself
         X11HotKeyEvent event(hotKey->id);
         called(event);

@@ -15,6 +15,8 @@ class Keyboard;
 class X11HotKeys final : public HotKeys {
 public:
     X11HotKeys(Keyboard& keyboard, KeyGrabs& grabs, KeyEvents& events);
+    X11HotKeys(const X11HotKeys&) = delete;
+    X11HotKeys& operator=(const X11HotKeys&) = delete;
     ~X11HotKeys() override;
 
     OsStatus installHandler(HotKeyHandler handler) override;

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+#include "base/Keys.h"
+#include "platform/x11/keys/KeyMapping.h"
+#include "support/KeyInjector.h"
+#include "support/XClient.h"
+
+namespace quorvel::contract {
+
+// The keyboard of a display as a person types on it and as other programs hear it.
+class ContractKeyboard {
+public:
+    // The mapping tells which of the server's key codes is which key.
+    ContractKeyboard(const xtest::XServer& server, xtest::KeyInjector& injector, const x11::KeyMapping& mapping);
+    ContractKeyboard(const ContractKeyboard&) = delete;
+    ContractKeyboard& operator=(const ContractKeyboard&) = delete;
+    ~ContractKeyboard();
+
+    // Keys with eventFlags; release() lets go of the modifiers that hold() pressed.
+    void hold(KeyCode keyCode, std::uint64_t flags);
+    void repeat(KeyCode keyCode);
+    void release(KeyCode keyCode);
+
+    // Notes from now on which keys arrive in a window of any program.
+    void listenTo(xcb_window_t window);
+    std::vector<KeyCode> keysReceivedBy(xcb_window_t window);
+
+    // Another program takes a combination: a key code and a mask of hotKeyModifiers.
+    void takeHotKeyElsewhere(std::uint32_t keyCode, std::uint32_t modifiers);
+
+private:
+    std::uint8_t codeOf(KeyCode keyCode) const;
+
+    xtest::KeyInjector& injector;
+    const x11::KeyMapping& mapping;
+    xcb_connection_t* other; // of the other programs
+    std::vector<xtest::KeyInjector::Modifier> heldModifiers;
+    std::map<xcb_window_t, std::vector<KeyCode>> received;
+};
+
+} // namespace quorvel::contract
