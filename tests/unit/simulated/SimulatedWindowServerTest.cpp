@@ -143,6 +143,18 @@ TEST_F(SimulatedWindowServerTest, AClickFocusesTheWindowUnderItAndPassesThroughO
     EXPECT_EQ(presses, 1);
 }
 
+TEST_F(SimulatedWindowServerTest, AClickWhereAMinimizedWindowWasReachesTheOneBehindIt)
+{
+    desktop.minimize(news);
+    desktop.minimize(letter);
+
+    desktop.clickMouse({200.0, 200.0});
+
+    EXPECT_EQ(desktop.windowServer.frontmostProcess(), editor.process());
+    EXPECT_EQ(desktop.windowServer.frontWindow(editor), &notes);
+    EXPECT_TRUE(news.isMinimized());
+}
+
 TEST_F(SimulatedWindowServerTest, AClickOnAnOwnWindowThatTakesTheMouseStaysThere)
 {
     const auto own =
