@@ -24,6 +24,8 @@ public:
 
     SimulatedEventTap(Journal& journal, const SimulatedEventTaps& eventTaps,
                       std::shared_ptr<Registration> registration);
+    SimulatedEventTap(const SimulatedEventTap&) = delete;
+    SimulatedEventTap& operator=(const SimulatedEventTap&) = delete;
     ~SimulatedEventTap() override;
 
     bool createRunLoopSource() override;

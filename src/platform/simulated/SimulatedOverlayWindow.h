@@ -13,6 +13,8 @@ class SimulatedOverlayWindows;
 class SimulatedOverlayWindow final : public OverlayPanel {
 public:
     SimulatedOverlayWindow(SimulatedOverlayWindows& owner, std::shared_ptr<OverlayWindowRecord> record);
+    SimulatedOverlayWindow(const SimulatedOverlayWindow&) = delete;
+    SimulatedOverlayWindow& operator=(const SimulatedOverlayWindow&) = delete;
     ~SimulatedOverlayWindow() override;
 
     ScreenRect frame() const override;

@@ -1,7 +1,6 @@
 #include "platform/simulated/SimulatedOverlayWindows.h"
 
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 #include "base/LogText.h"
@@ -43,10 +42,7 @@ std::unique_ptr<OverlayPanel> SimulatedOverlayWindows::createPanel(const WindowD
 
 std::vector<SimulatedOverlayWindows::Record> SimulatedOverlayWindows::visible() const
 {
-    std::vector<Record> result(stacking.begin(), stacking.end());
-    std::ranges::stable_sort(result, std::ranges::greater(),
-                             [](const Record& each) { return each->description.level; });
-    return result;
+    return {stacking.begin(), stacking.end()};
 }
 
 SimulatedOverlayWindows::Record SimulatedOverlayWindows::keyPanel() const
@@ -74,7 +70,8 @@ void SimulatedOverlayWindows::note(const OverlayWindowRecord& record, std::strin
 void SimulatedOverlayWindows::show(const std::shared_ptr<OverlayWindowRecord>& record)
 {
     std::erase(stacking, record);
-    stacking.insert(stacking.begin(), record);
+    const auto isNotAbove = [&](const Record& each) { return each->description.level <= record->description.level; };
+    stacking.insert(std::ranges::find_if(stacking, isNotAbove), record);
     record->isVisible = true;
     record->isClosed = false;
 }

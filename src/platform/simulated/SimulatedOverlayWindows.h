@@ -44,7 +44,7 @@ private:
     Journal& journal;
     const SimulatedWindowServer& windowServer;
     std::vector<std::shared_ptr<OverlayWindowRecord>> records;
-    std::vector<std::shared_ptr<OverlayWindowRecord>> stacking; // shown ones; the last one ordered front first
+    std::vector<std::shared_ptr<OverlayWindowRecord>> stacking; // the shown ones, front to back
     std::shared_ptr<OverlayWindowRecord> key;
 };
 

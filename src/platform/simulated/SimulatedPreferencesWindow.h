@@ -9,6 +9,8 @@ class SimulatedPreferencesUi;
 class SimulatedPreferencesWindow final : public PreferencesWindow {
 public:
     explicit SimulatedPreferencesWindow(SimulatedPreferencesUi& owner) : owner(owner) {}
+    SimulatedPreferencesWindow(const SimulatedPreferencesWindow&) = delete;
+    SimulatedPreferencesWindow& operator=(const SimulatedPreferencesWindow&) = delete;
     ~SimulatedPreferencesWindow() override;
 
     void show() override;

@@ -21,6 +21,8 @@ public:
     };
 
     SimulatedStatusItem(Journal& journal, std::shared_ptr<Registration> registration);
+    SimulatedStatusItem(const SimulatedStatusItem&) = delete;
+    SimulatedStatusItem& operator=(const SimulatedStatusItem&) = delete;
     ~SimulatedStatusItem() override;
 
     bool hasButton() const override;

@@ -150,9 +150,11 @@ std::vector<SimulatedApplication*> SimulatedWindowServer::runningApplications() 
 std::vector<SimulatedWindow*> SimulatedWindowServer::windows(const SimulatedApplication& application) const
 {
     std::vector<SimulatedWindow*> result;
-    std::ranges::copy_if(stacking, std::back_inserter(result),
-                         [&](const SimulatedWindow* each) { return &each->application == &application; });
-    std::ranges::stable_partition(result, [](const SimulatedWindow* each) { return each->isOnScreen(); });
+    for (const bool minimized : {false, true}) {
+        std::ranges::copy_if(stacking, std::back_inserter(result), [&](const SimulatedWindow* each) {
+            return &each->application == &application && each->isMinimized() == minimized;
+        });
+    }
     return result;
 }
 

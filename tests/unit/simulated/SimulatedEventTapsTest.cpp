@@ -16,7 +16,7 @@ using Decision = SimulatedEventTaps::Decision;
 
 class SimulatedEventTapsTest : public testing::Test {
 protected:
-    std::unique_ptr<EventTap> createTap(std::string name = "tap", TapDecision answer = TapDecision::drop)
+    std::unique_ptr<EventTap> createTap(const std::string& name = "tap", TapDecision answer = TapDecision::drop)
     {
         return taps.createTap({.eventMask = keyDownEventMask}, [this, name, answer](const TapEvent& event) {
             seen.push_back(name);
