@@ -9,6 +9,7 @@
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
 #include "platform/Workspace.h"
+#include "settings/SettingsReport.h"
 #include "system/GlobalEventBlocker.h"
 #include "system/PermissionsOnboarding.h"
 
@@ -21,6 +22,7 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching()
 {
     const auto& platform = environment.platform;
+    reportMistypedSettings(platform.userDefaults, platform.log);
     statusBarItem = platform.statusBar.createItem();
     if (statusBarItem->hasButton()) {
         if (auto image = platform.bundle.image("MenuBarIcon")) {

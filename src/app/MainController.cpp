@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "base/FatalError.h"
+#include "app/NumberInRange.h"
 #include "platform/Log.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
@@ -30,13 +30,7 @@ constexpr NavigationHotKey navigationHotKeys[] = {
     {Action::previousScreen, shortcutKeys::previousScreen},
 };
 
-std::uint32_t checked32(std::int64_t stored)
-{
-    if (stored < 0 || stored > std::numeric_limits<std::uint32_t>::max()) {
-        fatalError(fmt::format("{} is no key code and no modifiers of a hot key", stored));
-    }
-    return static_cast<std::uint32_t>(stored);
-}
+constexpr auto largestHotKeyNumber = std::numeric_limits<std::uint32_t>::max();
 
 } // namespace
 
@@ -77,25 +71,28 @@ void MainController::registerShortcuts()
     platform.log.line(fmt::format("Registering shortcuts: keyCode={}, modifiers={}", activateOverlay.keyCode,
                                   activateOverlay.modifiers));
     shortcutManager.unregisterAll();
-    registerHotKey(activateOverlay, Action::activateOverlay);
-    registerHotKey(mainShortcut(settings, shortcutKeys::moveResize), Action::moveResizeFrontmost);
-    registerHotKey(mainShortcut(settings, shortcutKeys::focusSwitcher), Action::focusSwitcher);
+    registerHotKey(shortcutKeys::activateOverlay, activateOverlay, Action::activateOverlay);
+    registerHotKey(shortcutKeys::moveResize, mainShortcut(settings, shortcutKeys::moveResize),
+                   Action::moveResizeFrontmost);
+    registerHotKey(shortcutKeys::focusSwitcher, mainShortcut(settings, shortcutKeys::focusSwitcher),
+                   Action::focusSwitcher);
     for (const auto& hotKey : navigationHotKeys) {
         const auto shortcut = navigationShortcut(settings, hotKey.keys);
         // Without modifiers it works inside the overlay only.
         if (shortcut.modifiers != 0) {
-            registerHotKey(shortcut, hotKey.action);
+            registerHotKey(hotKey.keys, shortcut, hotKey.action);
         }
     }
 }
 
 // Key code 0 stands for a shortcut that was cleared: it must not take the A key from the whole system.
-void MainController::registerHotKey(const Shortcut& shortcut, Action action)
+void MainController::registerHotKey(const ShortcutKeys& keys, const Shortcut& shortcut, Action action)
 {
     if (shortcut.keyCode == 0) {
         return;
     }
-    shortcutManager.registerHotKey(checked32(shortcut.keyCode), checked32(shortcut.modifiers), action,
+    shortcutManager.registerHotKey(numberInRange(keys.keyCode, shortcut.keyCode, largestHotKeyNumber),
+                                   numberInRange(keys.modifiers, shortcut.modifiers, largestHotKeyNumber), action,
                                    weakly.guard([this](Action fired) {
                                        if (fired == Action::activateOverlay) {
                                            platform.log.line("Activate overlay shortcut fired");

@@ -22,6 +22,7 @@ namespace quorvel {
 
 struct Platform;
 struct Shortcut;
+struct ShortcutKeys;
 class GlobalEventBlocker;
 
 // The hub of the running program: registers the global hot keys, turns them and the keys of modes into actions, drives
@@ -71,7 +72,7 @@ public:
     ModeState& modeState() { return modes; }
 
 private:
-    void registerHotKey(const Shortcut& shortcut, Action action);
+    void registerHotKey(const ShortcutKeys& keys, const Shortcut& shortcut, Action action);
     void observePreferencesClosing();
     void resumeShortcuts();
 

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "base/FatalError.h"
+#include "app/NumberInRange.h"
 #include "settings/ShortcutSettings.h"
 
 namespace quorvel {
@@ -22,19 +22,11 @@ constexpr NavigationCommand navigationCommands[] = {
     {Action::previousScreen, shortcutKeys::previousScreen, keyCodes::leftArrow},
 };
 
-template <class Limit>
-bool fits(std::int64_t value)
-{
-    return value >= 0 && value <= std::numeric_limits<Limit>::max();
-}
-
 Shortcut checkedShortcut(const Settings& settings, const ShortcutKeys& keys)
 {
-    const auto shortcut = navigationShortcut(settings, keys);
-    if (!fits<std::uint16_t>(shortcut.keyCode) || !fits<std::uint32_t>(shortcut.modifiers)) {
-        fatalError("A stored shortcut of the layout overlay is out of range");
-    }
-    return shortcut;
+    const auto stored = navigationShortcut(settings, keys);
+    return {.keyCode = numberInRange(keys.keyCode, stored.keyCode, std::numeric_limits<std::uint16_t>::max()),
+            .modifiers = numberInRange(keys.modifiers, stored.modifiers, std::numeric_limits<std::uint32_t>::max())};
 }
 
 } // namespace
