@@ -54,6 +54,13 @@ TEST_F(AppDelegateTest, ThePartsComeIntoBeingInOrder)
     EXPECT_EQ(desktop.journal.entries({"Permissions.isGranted"}).at(0), "Permissions.isGranted(accessibility)");
 }
 
+TEST_F(AppDelegateTest, ASettingOfAWrongTypeIsNamedInTheLog)
+{
+    store("activateOverlayModifiers", "256");
+    construct().appDelegate().applicationDidFinishLaunching();
+    EXPECT_EQ(lastLine(), "Setting \"activateOverlayModifiers\" holds a string where an integer is expected");
+}
+
 TEST_F(AppDelegateTest, TheMenuHasSixEntries)
 {
     launch();
