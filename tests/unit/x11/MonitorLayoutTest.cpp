@@ -1,4 +1,4 @@
-#include "platform/x11/MonitorLayout.h"
+#include "platform/x11/screens/MonitorLayout.h"
 
 #include <random>
 

@@ -4,7 +4,7 @@
 
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
-#include "platform/x11/WindowAdapters.h"
+#include "platform/x11/windows/WindowAdapters.h"
 #include "support/ClientProcess.h"
 #include "support/TestDisplay.h"
 #include "x11/windows/AdapterLoop.h"

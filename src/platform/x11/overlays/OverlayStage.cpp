@@ -6,11 +6,11 @@
 
 #include "platform/MainQueue.h"
 #include "platform/x11/Connection.h"
-#include "platform/x11/X11Screens.h"
 #include "platform/x11/overlays/OverlaySurface.h"
 #include "platform/x11/painting/CollapsedList.h"
 #include "platform/x11/painting/OpaqueList.h"
 #include "platform/x11/painting/PixelAlignment.h"
+#include "platform/x11/screens/X11Screens.h"
 
 namespace quorvel::x11 {
 

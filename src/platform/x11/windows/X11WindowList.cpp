@@ -1,7 +1,7 @@
-#include "platform/x11/X11WindowList.h"
+#include "platform/x11/windows/X11WindowList.h"
 
-#include "platform/x11/ClientWindows.h"
-#include "platform/x11/X11Screens.h"
+#include "platform/x11/screens/X11Screens.h"
+#include "platform/x11/windows/ClientWindows.h"
 
 namespace quorvel::x11 {
 

@@ -1,4 +1,4 @@
-#include "platform/x11/X11Screens.h"
+#include "platform/x11/screens/X11Screens.h"
 
 #include <algorithm>
 #include <array>

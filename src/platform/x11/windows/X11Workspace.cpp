@@ -1,4 +1,4 @@
-#include "platform/x11/X11Workspace.h"
+#include "platform/x11/windows/X11Workspace.h"
 
 #include <algorithm>
 #include <fstream>
@@ -10,9 +10,9 @@
 #include <unistd.h>
 
 #include "platform/MainQueue.h"
-#include "platform/x11/Activation.h"
-#include "platform/x11/ClientWindows.h"
 #include "platform/x11/GlibHandles.h"
+#include "platform/x11/windows/Activation.h"
+#include "platform/x11/windows/ClientWindows.h"
 
 namespace quorvel::x11 {
 

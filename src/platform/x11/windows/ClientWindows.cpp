@@ -1,4 +1,4 @@
-#include "platform/x11/ClientWindows.h"
+#include "platform/x11/windows/ClientWindows.h"
 
 #include <algorithm>
 #include <utility>

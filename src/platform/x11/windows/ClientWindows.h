@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/Subscription.h"
-#include "platform/x11/WindowReader.h"
+#include "platform/x11/windows/WindowReader.h"
 
 namespace quorvel::x11 {
 

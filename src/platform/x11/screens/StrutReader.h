@@ -7,7 +7,7 @@
 
 #include "base/Geometry.h"
 #include "base/Subscription.h"
-#include "platform/x11/MonitorLayout.h"
+#include "platform/x11/screens/MonitorLayout.h"
 
 namespace quorvel::x11 {
 

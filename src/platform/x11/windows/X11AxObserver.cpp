@@ -1,10 +1,10 @@
-#include "platform/x11/X11AxObserver.h"
+#include "platform/x11/windows/X11AxObserver.h"
 
 #include <optional>
 #include <utility>
 
-#include "platform/x11/WindowWatcher.h"
-#include "platform/x11/X11AxElement.h"
+#include "platform/x11/windows/WindowWatcher.h"
+#include "platform/x11/windows/X11AxElement.h"
 
 namespace quorvel::x11 {
 

@@ -7,7 +7,7 @@
 
 #include <xcb/xcb.h>
 
-#include "platform/x11/WindowSnapshot.h"
+#include "platform/x11/windows/WindowSnapshot.h"
 
 namespace quorvel::x11 {
 

@@ -1,4 +1,4 @@
-#include "platform/x11/StrutReader.h"
+#include "platform/x11/screens/StrutReader.h"
 
 #include <algorithm>
 #include <utility>

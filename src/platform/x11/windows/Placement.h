@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/x11/PlacementRequest.h"
+#include "platform/x11/windows/PlacementRequest.h"
 
 namespace quorvel::x11 {
 

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "platform/x11/Activation.h"
-#include "platform/x11/ClientWindows.h"
-#include "platform/x11/DesktopEntries.h"
-#include "platform/x11/Placements.h"
 #include "platform/x11/RootProperties.h"
-#include "platform/x11/WindowManager.h"
-#include "platform/x11/WindowManagerBarrier.h"
-#include "platform/x11/WindowWatcher.h"
-#include "platform/x11/X11Accessibility.h"
-#include "platform/x11/X11Screens.h"
-#include "platform/x11/X11WindowList.h"
-#include "platform/x11/X11Workspace.h"
+#include "platform/x11/screens/X11Screens.h"
+#include "platform/x11/windows/Activation.h"
+#include "platform/x11/windows/ClientWindows.h"
+#include "platform/x11/windows/DesktopEntries.h"
+#include "platform/x11/windows/Placements.h"
+#include "platform/x11/windows/WindowManager.h"
+#include "platform/x11/windows/WindowManagerBarrier.h"
+#include "platform/x11/windows/WindowWatcher.h"
+#include "platform/x11/windows/X11Accessibility.h"
+#include "platform/x11/windows/X11WindowList.h"
+#include "platform/x11/windows/X11Workspace.h"
 
 namespace quorvel::x11 {
 

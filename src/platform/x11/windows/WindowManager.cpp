@@ -1,4 +1,4 @@
-#include "platform/x11/WindowManager.h"
+#include "platform/x11/windows/WindowManager.h"
 
 #include <algorithm>
 #include <vector>

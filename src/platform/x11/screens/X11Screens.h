@@ -7,9 +7,9 @@
 #include "base/Subscription.h"
 #include "base/WeakGuard.h"
 #include "platform/Screens.h"
-#include "platform/x11/MonitorLayout.h"
 #include "platform/x11/RootGeometry.h"
-#include "platform/x11/StrutReader.h"
+#include "platform/x11/screens/MonitorLayout.h"
+#include "platform/x11/screens/StrutReader.h"
 
 namespace quorvel {
 class MainQueue;

@@ -1,4 +1,4 @@
-#include "platform/x11/Placement.h"
+#include "platform/x11/windows/Placement.h"
 
 namespace quorvel::x11 {
 

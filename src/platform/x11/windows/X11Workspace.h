@@ -6,7 +6,7 @@
 
 #include "base/WeakGuard.h"
 #include "platform/Workspace.h"
-#include "platform/x11/DesktopEntries.h"
+#include "platform/x11/windows/DesktopEntries.h"
 
 namespace quorvel {
 class MainQueue;

@@ -1,4 +1,4 @@
-#include "platform/x11/PlacementRequest.h"
+#include "platform/x11/windows/PlacementRequest.h"
 
 #include <algorithm>
 #include <cmath>

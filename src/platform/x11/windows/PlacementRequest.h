@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "platform/x11/RootGeometry.h"
-#include "platform/x11/WindowManager.h"
-#include "platform/x11/WindowSnapshot.h"
+#include "platform/x11/windows/WindowManager.h"
+#include "platform/x11/windows/WindowSnapshot.h"
 
 namespace quorvel::x11 {
 

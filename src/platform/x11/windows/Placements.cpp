@@ -1,12 +1,12 @@
-#include "platform/x11/Placements.h"
+#include "platform/x11/windows/Placements.h"
 
 #include <chrono>
 #include <utility>
 
 #include "platform/MainQueue.h"
-#include "platform/x11/ClientWindows.h"
 #include "platform/x11/Connection.h"
-#include "platform/x11/WindowManagerBarrier.h"
+#include "platform/x11/windows/ClientWindows.h"
+#include "platform/x11/windows/WindowManagerBarrier.h"
 
 namespace quorvel::x11 {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Accessibility.h"
-#include "platform/x11/WindowSnapshot.h"
-#include "platform/x11/X11AxElement.h"
+#include "platform/x11/windows/WindowSnapshot.h"
+#include "platform/x11/windows/X11AxElement.h"
 
 namespace quorvel::x11 {
 

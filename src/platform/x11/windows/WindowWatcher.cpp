@@ -1,12 +1,12 @@
-#include "platform/x11/WindowWatcher.h"
+#include "platform/x11/windows/WindowWatcher.h"
 
 #include <array>
 #include <utility>
 
 #include "platform/MainQueue.h"
-#include "platform/x11/ClientWindows.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/Contains.h"
+#include "platform/x11/windows/ClientWindows.h"
 
 namespace quorvel::x11 {
 

@@ -8,7 +8,7 @@
 
 #include "base/Subscription.h"
 #include "base/WeakGuard.h"
-#include "platform/x11/Placement.h"
+#include "platform/x11/windows/Placement.h"
 
 namespace quorvel {
 class MainQueue;

@@ -1,4 +1,4 @@
-#include "platform/x11/WindowAdapters.h"
+#include "platform/x11/windows/WindowAdapters.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "platform/x11/DesktopEntries.h"
+#include "platform/x11/windows/DesktopEntries.h"
 
 #include <algorithm>
 #include <set>

@@ -7,7 +7,7 @@
 
 #include "platform/Screens.h"
 #include "platform/x11/RootGeometry.h"
-#include "platform/x11/ScreenCoordinates.h"
+#include "platform/x11/screens/ScreenCoordinates.h"
 
 namespace quorvel::x11 {
 

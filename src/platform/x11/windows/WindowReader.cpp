@@ -1,4 +1,4 @@
-#include "platform/x11/WindowReader.h"
+#include "platform/x11/windows/WindowReader.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
-#include "platform/x11/WindowManagerBarrier.h"
+#include "platform/x11/windows/WindowManagerBarrier.h"
 
 #include <utility>
 
 #include "platform/x11/Connection.h"
-#include "platform/x11/WindowManager.h"
+#include "platform/x11/windows/WindowManager.h"
 
 namespace quorvel::x11 {
 

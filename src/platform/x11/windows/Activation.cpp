@@ -1,8 +1,8 @@
-#include "platform/x11/Activation.h"
+#include "platform/x11/windows/Activation.h"
 
-#include "platform/x11/ClientWindows.h"
 #include "platform/x11/Connection.h"
-#include "platform/x11/WindowManager.h"
+#include "platform/x11/windows/ClientWindows.h"
+#include "platform/x11/windows/WindowManager.h"
 
 namespace quorvel::x11 {
 

@@ -1,14 +1,14 @@
-#include "platform/x11/X11Accessibility.h"
+#include "platform/x11/windows/X11Accessibility.h"
 
 #include <utility>
 
-#include "platform/x11/Activation.h"
-#include "platform/x11/ClientWindows.h"
-#include "platform/x11/Placements.h"
-#include "platform/x11/WindowManager.h"
-#include "platform/x11/WindowWatcher.h"
-#include "platform/x11/X11AxObserver.h"
-#include "platform/x11/X11Screens.h"
+#include "platform/x11/screens/X11Screens.h"
+#include "platform/x11/windows/Activation.h"
+#include "platform/x11/windows/ClientWindows.h"
+#include "platform/x11/windows/Placements.h"
+#include "platform/x11/windows/WindowManager.h"
+#include "platform/x11/windows/WindowWatcher.h"
+#include "platform/x11/windows/X11AxObserver.h"
 
 namespace quorvel::x11 {
 
