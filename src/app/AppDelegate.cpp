@@ -47,7 +47,7 @@ void AppDelegate::applicationWillTerminate()
     environment.blocker.stop();
 }
 
-void AppDelegate::onShowPreferences()
+void AppDelegate::onShowPreferences() const
 {
     if (environment.mainController == nullptr) {
         fatalError("There is no main controller to open the preferences");
@@ -55,12 +55,12 @@ void AppDelegate::onShowPreferences()
     environment.mainController->openPreferences();
 }
 
-void AppDelegate::onShowGuide()
+void AppDelegate::onShowGuide() const
 {
     environment.platform.workspace.open(guideAddress());
 }
 
-MenuActions AppDelegate::menuActions()
+MenuActions AppDelegate::menuActions() const
 {
     const auto& platform = environment.platform;
     MenuActions actions;

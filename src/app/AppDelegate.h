@@ -41,14 +41,14 @@ public:
     void applicationWillTerminate();
 
     // A missing main controller is a fatal error.
-    void onShowPreferences();
+    void onShowPreferences() const;
 
     // Opens the user guide in the browser; nothing happens for an address that is none.
-    void onShowGuide();
+    void onShowGuide() const;
 
 private:
     // The commands that this build offers; menu entries for others are disabled.
-    MenuActions menuActions();
+    MenuActions menuActions() const;
     std::string guideAddress() const;
 
     AppDelegateEnvironment environment;

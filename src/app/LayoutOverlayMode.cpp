@@ -147,7 +147,7 @@ void LayoutOverlayMode::captureKeys(std::shared_ptr<const Showing> showing)
     }
 }
 
-void LayoutOverlayMode::handleKey(const Showing& showing, const CapturedKey& key)
+void LayoutOverlayMode::handleKey(const Showing& showing, const CapturedKey& key) const
 {
     const Settings settings(environment.platform.userDefaults);
     if (const auto action = overlayNavigation(settings, key.keyCode, hotKeyModifiersOf(key.flags))) {
@@ -162,7 +162,7 @@ void LayoutOverlayMode::handleKey(const Showing& showing, const CapturedKey& key
     environment.platform.log.line("Blocker blocked key: " + std::to_string(key.keyCode));
 }
 
-void LayoutOverlayMode::navigate(Action action, const Showing& showing)
+void LayoutOverlayMode::navigate(Action action, const Showing& showing) const
 {
     const bool changesScreen = action == Action::nextScreen || action == Action::previousScreen;
     const auto screens = changesScreen ? stepScreen(action, showing) : std::optional(showing.screens);
@@ -181,14 +181,14 @@ std::optional<ScreensModel> LayoutOverlayMode::stepScreen(Action action, const S
     return action == Action::nextScreen ? screens->nextScreen() : screens->previousScreen();
 }
 
-void LayoutOverlayMode::jump(const std::string& digit, const Showing& showing)
+void LayoutOverlayMode::jump(const std::string& digit, const Showing& showing) const
 {
     if (auto id = environment.layoutsManager.layoutIDForDigit(digit)) {
         environment.handleAction(Action::jumpToLayout, {*std::move(id), showing.screens, showing.element});
     }
 }
 
-void LayoutOverlayMode::choose(const std::string& character, const Showing& showing)
+void LayoutOverlayMode::choose(const std::string& character, const Showing& showing) const
 {
     if (const auto found = showing.labelToFrame.find(upperCased(character)); found != showing.labelToFrame.end()) {
         environment.handleAction(Action::moveClientWindow, {found->second, showing.screens, showing.element});

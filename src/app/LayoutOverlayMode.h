@@ -43,11 +43,11 @@ private:
     void showLegend(const ScreensModel& screens);
     void captureKeys(std::shared_ptr<const Showing> showing);
 
-    void handleKey(const Showing& showing, const CapturedKey& key);
-    void navigate(Action action, const Showing& showing);
+    void handleKey(const Showing& showing, const CapturedKey& key) const;
+    void navigate(Action action, const Showing& showing) const;
     std::optional<ScreensModel> stepScreen(Action action, const Showing& showing) const;
-    void jump(const std::string& digit, const Showing& showing);
-    void choose(const std::string& character, const Showing& showing);
+    void jump(const std::string& digit, const Showing& showing) const;
+    void choose(const std::string& character, const Showing& showing) const;
 
     ModeEnvironment environment;
     WeakGuard weakly;

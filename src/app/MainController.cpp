@@ -19,7 +19,7 @@ namespace quorvel {
 namespace {
 
 struct NavigationHotKey {
-    Action action;
+    Action action = Action::cancel;
     ShortcutKeys keys;
 };
 

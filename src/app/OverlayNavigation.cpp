@@ -10,9 +10,9 @@ namespace quorvel {
 namespace {
 
 struct NavigationCommand {
-    Action action;
+    Action action = Action::cancel;
     ShortcutKeys keys;
-    KeyCode builtInKey;
+    KeyCode builtInKey = 0;
 };
 
 constexpr NavigationCommand navigationCommands[] = {
