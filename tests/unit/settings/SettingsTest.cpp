@@ -140,6 +140,30 @@ TEST_F(SettingsTest, PreferencesShowEveryShortcutAsUnset)
     EXPECT_TRUE(store.contents().empty());
 }
 
+TEST_F(SettingsTest, PreferencesShowTheDefaultsOfTheMoveResizeMode)
+{
+    EXPECT_EQ(settings.boundString(settingsKeys::mrSelectionColorHex), "#0A84FFCC");
+    EXPECT_EQ(settings.boundReal(settingsKeys::mrSelectionBorderWidth), 3.0);
+    EXPECT_TRUE(settings.boundBoolean(settingsKeys::mrSelectionGlow));
+    EXPECT_EQ(settings.boundString(settingsKeys::mrSnapTargetColorHex), "#30D158CC");
+    EXPECT_EQ(settings.boundReal(settingsKeys::mrSnapTargetBorderWidth), 3.0);
+    EXPECT_TRUE(settings.boundBoolean(settingsKeys::mrSnapTargetGlow));
+    EXPECT_EQ(settings.boundInteger(settingsKeys::mrCornerRadius), 10);
+    EXPECT_TRUE(settings.boundBoolean(settingsKeys::mrSnapEnabled));
+    EXPECT_EQ(settings.boundReal(settingsKeys::mrSnapThreshold), 20.0);
+    EXPECT_EQ(settings.boundReal(settingsKeys::mrSnapResistance), 3.0);
+    EXPECT_EQ(settings.boundReal(settingsKeys::mrMoveStep), 20.0);
+}
+
+TEST_F(SettingsTest, PreferencesShowTheDefaultsOfTheRemainingSettings)
+{
+    EXPECT_EQ(settings.boundString(settingsKeys::keyboardLayoutProfile), "QWERTY");
+    EXPECT_EQ(settings.boundString(settingsKeys::fsDefaultDisplayMode), "frames");
+    EXPECT_EQ(settings.boundReal(settingsKeys::wsTextSize), 64.0);
+    EXPECT_FALSE(settings.boundBoolean(settingsKeys::startAtLoginEnabled));
+    EXPECT_FALSE(settings.boundBoolean(settingsKeys::didSeedDefaultLayouts));
+}
+
 TEST_F(SettingsTest, AKeyOutsideTheTableHasNoDefault)
 {
     EXPECT_EQ(fatalErrorOf([this] { static_cast<void>(settings.boundInteger("tpyo")); }), "No such setting: tpyo");
