@@ -76,8 +76,10 @@ TEST_F(ScreensModelTest, TheTopOfAllScreensIsTheTopOfWindows)
     EXPECT_FALSE(model.selectScreenForWindowRect({0, 0, 700, 150}));
     EXPECT_EQ(desktop.log.lines()[1], "normalizedWindowRect: (0.0, 930.0, 700.0, 150.0)");
 
+    desktop.log.clear();
     EXPECT_TRUE(model.selectScreenForWindowRect({0, 0, 700, 400}));
     EXPECT_EQ(model.currentScreen(), primary);
+    EXPECT_EQ(desktop.log.lines()[3], "intersection: (0.0, 680.0, 700.0, 220.0)");
 }
 
 TEST_F(ScreensModelTest, AScreenBelowIsChosenByItsPart)
@@ -85,6 +87,8 @@ TEST_F(ScreensModelTest, AScreenBelowIsChosenByItsPart)
     desktop.screens.connect({primary, below});
     EXPECT_TRUE(model.selectScreenForWindowRect({0, 700, 1000, 500}));
     EXPECT_EQ(model.currentScreen(), below);
+    EXPECT_EQ(desktop.log.lines()[3], "intersection: (0.0, 0.0, 1000.0, 200.0)");
+    EXPECT_EQ(desktop.log.lines()[6], "intersection: (0.0, -300.0, 1000.0, 300.0)");
 }
 
 TEST_F(ScreensModelTest, AFewVisiblePointsAreEnough)
