@@ -54,11 +54,29 @@ TEST_F(AppDelegateTest, ThePartsComeIntoBeingInOrder)
     EXPECT_EQ(desktop.journal.entries({"Permissions.isGranted"}).at(0), "Permissions.isGranted(accessibility)");
 }
 
-TEST_F(AppDelegateTest, ASettingOfAWrongTypeIsNamedInTheLog)
+TEST_F(AppDelegateTest, ASettingOfAWrongTypeIsNamedInOneLine)
 {
     store("activateOverlayModifiers", "256");
-    construct().appDelegate().applicationDidFinishLaunching();
-    EXPECT_EQ(lastLine(), "Setting \"activateOverlayModifiers\" holds a string where an integer is expected");
+    construct();
+    forget();
+    app->appDelegate().applicationDidFinishLaunching();
+    desktop.drain();
+    EXPECT_EQ(
+        desktop.log.lines(),
+        (std::vector<std::string>{"Setting \"activateOverlayModifiers\" holds a string where an integer is expected"}));
+}
+
+TEST_F(AppDelegateTest, SettingsOfTheRightTypesAreNotMentioned)
+{
+    storeShortcut("activateOverlay", 40, 768);
+    store("textColor", "#FF0000");
+    store("isTextBold", PropertyValue{false});
+    store("textSize", PropertyValue{30.5});
+    construct(); // stores a selection with its digits
+    forget();
+    app->appDelegate().applicationDidFinishLaunching();
+    desktop.drain();
+    EXPECT_TRUE(desktop.log.lines().empty());
 }
 
 TEST_F(AppDelegateTest, TheMenuHasSixEntries)

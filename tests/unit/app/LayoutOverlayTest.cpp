@@ -9,7 +9,6 @@
 #include "app/LayoutOverlayMode.h"
 #include "app/MainController.h"
 #include "system/WindowElementModel.h"
-#include "tests/support/FatalErrors.h"
 #include "tests/unit/app/AppFixture.h"
 #include "tests/unit/app/AppScreens.h"
 
@@ -57,6 +56,28 @@ TEST_F(LayoutOverlayTest, EqualFramesShowTheLaterLetterAndBothLettersWork)
         type(letter);
         EXPECT_EQ(window.frame(), (AxRect{0, 25, 1440, 875}));
     }
+}
+
+TEST_F(LayoutOverlayTest, EveryLetterOfTheAlphabetHasAFrameInALayoutOf26)
+{
+    std::string columns;
+    for (int column = 0; column < 26; ++column) {
+        columns += std::string(column == 0 ? "" : ",") + R"({"bottom_left_x": )" + std::to_string(column) +
+                   R"(e-2, "bottom_left_y": 0, "top_right_x": )" + std::to_string(column + 1) +
+                   R"(e-2, "top_right_y": 1})";
+    }
+    desktop.bundle.addResource("layouts", "json",
+                               R"({"layouts": [{"id": "columns", "name": "Columns", "windows": [)" + columns + "]}]}");
+    select({"columns"});
+    launch();
+    show();
+    std::string labels;
+    for (const auto& label : shownLabels()) {
+        labels += label;
+    }
+    EXPECT_EQ(labels, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    type(6); // Z
+    EXPECT_TRUE(nearlyEqual(window.frame(), AxRect{360, 25, 14.4, 875}, 1e-9));
 }
 
 TEST_F(LayoutOverlayTest, ATapTakesAllKeysWithoutAPanel)

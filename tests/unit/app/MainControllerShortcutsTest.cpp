@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/MainController.h"
+#include "settings/Settings.h"
 #include "tests/support/FatalErrors.h"
 #include "tests/unit/app/AppFixture.h"
 
@@ -154,6 +155,30 @@ TEST_F(MainControllerShortcutsTest, AChangedShortcutCountsAtOnce)
     EXPECT_EQ(state(), StateManager::States::overlayOn);
 }
 
+TEST_F(MainControllerShortcutsTest, TheNewShortcutIsLoggedBeforeTheOldOnesGo)
+{
+    launch();
+    store("activateOverlayKeyCode", 40);
+    forget();
+    post("ShortcutDidChangeNotification");
+    EXPECT_EQ(desktop.journal.entries({"Log.line", "HotKeys."}).at(0),
+              "Log.line(Registering shortcuts: keyCode=40, modifiers=768)");
+}
+
+TEST_F(MainControllerShortcutsTest, ChangesOfOtherSettingsRegisterNothing)
+{
+    launch();
+    Settings settings(desktop.userDefaults);
+    settings.setString("textColor", "#FF0000");
+    settings.setReal("wsTextSize", 40.0);
+    settings.setInteger("mrCornerRadius", 4);
+    settings.setBoolean("mrSnapEnabled", false);
+    desktop.drain();
+    EXPECT_TRUE(hotKeyCalls().empty());
+    EXPECT_EQ(desktop.journal.count("NotificationCenter.post"), 0U);
+    EXPECT_TRUE(desktop.log.lines().empty());
+}
+
 TEST_F(MainControllerShortcutsTest, WhilePreferencesAreOpenAChangeRegistersNothing)
 {
     launch();
@@ -233,6 +258,19 @@ TEST_F(MainControllerShortcutsTest, OpeningPreferencesReleasesTheKeyboard)
     pressOverlayHotKey();
     controller().openPreferences();
     EXPECT_TRUE(blocker().blockedKeyCodes().empty());
+}
+
+TEST_F(MainControllerShortcutsTest, TheFocusIsGivenBackBeforePreferencesShow)
+{
+    launch();
+    blocker().stop();
+    pressOverlayHotKey();
+    ASSERT_TRUE(isKeyCapturePanelShown());
+    forget();
+    controller().openPreferences();
+    EXPECT_EQ(desktop.journal.entries({"HotKeys.", "OverlayPanel.", "Workspace.activate(", "PreferencesWindow.show"}),
+              (Lines{"HotKeys.unregisterHotKey(1)", "HotKeys.unregisterHotKey(2)", "HotKeys.unregisterHotKey(3)",
+                     "OverlayPanel.orderOut(3)", "Workspace.activate(500)", "PreferencesWindow.show()"}));
 }
 
 TEST_F(MainControllerShortcutsTest, TheOverlayIsSuppressedWhilePreferencesAreOpen)

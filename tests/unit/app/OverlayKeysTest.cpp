@@ -182,6 +182,32 @@ TEST_F(OverlayKeysTest, LeftAndRightGoAroundTheScreens)
     EXPECT_TRUE(isOverlayUp());
 }
 
+TEST_F(OverlayKeysTest, AnotherLayoutShowsOnTheScreenThatWasChosen)
+{
+    desktop.screens.connect({fixtures::primary, fixtures::rightSameSize});
+    open();
+    type(keyCodes::rightArrow);
+    type(keyCodes::downArrow);
+    type(keyCodes::upArrow);
+    type(keys::digit3);
+    EXPECT_EQ(shownLabels(), (Lines{"A", "B"}));
+    type(keys::b);
+    EXPECT_EQ(window.frame(), (AxRect{2160, 25, 720, 875}));
+}
+
+TEST_F(OverlayKeysTest, AStepKeepsTheWindowWhoeverComesToTheFront)
+{
+    open();
+    auto& browser = desktop.launch("Browser");
+    auto& page = desktop.openWindow(browser, "Page", {50, 50, 500, 500});
+    desktop.drain();
+    type(keyCodes::downArrow);
+    type(keyCodes::upArrow);
+    type(keyCodes::a);
+    EXPECT_EQ(window.frame(), (AxRect{0, 25, 1440, 875}));
+    EXPECT_EQ(page.frame(), (AxRect{50, 50, 500, 500}));
+}
+
 TEST_F(OverlayKeysTest, WithOneScreenTheOverlayStaysOnIt)
 {
     open();
