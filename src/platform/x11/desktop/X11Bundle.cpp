@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 #include "platform/x11/FileDescriptor.h"
-#include "platform/x11/desktop/Version.h"
+#include "platform/x11/desktop/BuildFacts.h"
 
 namespace quorvel::x11 {
 
@@ -59,7 +59,7 @@ std::vector<std::filesystem::path> X11Bundle::standardDirectories()
     std::error_code error;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
     if (!error) {
-        directories.push_back(program.parent_path().parent_path() / "share" / "quorvel");
+        directories.push_back((program.parent_path() / buildFacts::programsToResources).lexically_normal());
     }
     return directories;
 }
@@ -84,7 +84,7 @@ std::optional<Image> X11Bundle::image(std::string_view name) const
 
 std::string X11Bundle::shortVersion() const
 {
-    return std::string(version);
+    return std::string(buildFacts::version);
 }
 
 std::string X11Bundle::userGuideAddress() const

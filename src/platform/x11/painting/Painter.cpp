@@ -6,14 +6,13 @@
 #include <variant>
 
 #include "platform/x11/painting/CairoHandles.h"
+#include "platform/x11/painting/ImageSurface.h"
 #include "platform/x11/painting/RoundedPath.h"
 #include "platform/x11/painting/ShadowMask.h"
 
 namespace quorvel::x11 {
 
 namespace {
-
-constexpr int bytesPerPixel = 4;
 
 void setSource(cairo_t* context, const Color& color)
 {
@@ -136,9 +135,7 @@ void Painter::paint(PixelImage& image, const DrawList& list) const
     if (image.size.width <= 0 || image.size.height <= 0) {
         return;
     }
-    auto* const bytes = reinterpret_cast<unsigned char*>(image.pixels.data());
-    const CairoSurface surface(cairo_image_surface_create_for_data(
-        bytes, CAIRO_FORMAT_ARGB32, image.size.width, image.size.height, image.size.width * bytesPerPixel));
+    const CairoSurface surface = imageSurface(image);
     const CairoContext context(cairo_create(surface.get()));
     const ListPainter painter(context.get(), image.size, layouts);
     for (const auto& command : list.commands) {
