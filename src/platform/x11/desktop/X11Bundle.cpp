@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <system_error>
 
 #include <fcntl.h>
@@ -13,6 +12,7 @@
 #include <unistd.h>
 
 #include "platform/x11/FileDescriptor.h"
+#include "platform/x11/GlibHandles.h"
 #include "platform/x11/desktop/BuildFacts.h"
 
 namespace quorvel::x11 {
@@ -93,8 +93,7 @@ std::string X11Bundle::userGuideAddress() const
     if (file.empty()) {
         return {};
     }
-    const std::unique_ptr<char, decltype(&g_free)> address(
-        g_filename_to_uri(std::filesystem::absolute(file).c_str(), nullptr, nullptr), &g_free);
+    const GlibText address(g_filename_to_uri(std::filesystem::absolute(file).c_str(), nullptr, nullptr));
     return address ? std::string(address.get()) : std::string();
 }
 

@@ -9,26 +9,19 @@
 
 #include <glib.h>
 
+#include "platform/x11/GlibHandles.h"
+
 namespace quorvel::x11 {
 
 namespace {
-
-struct KeyFileDeleter {
-    void operator()(GKeyFile* file) const { g_key_file_free(file); }
-};
-
-struct GlibDeleter {
-    void operator()(void* memory) const { g_free(memory); }
-};
-
-using KeyFile = std::unique_ptr<GKeyFile, KeyFileDeleter>;
 
 // A colour as "53,132,228", perhaps with an alpha behind it.
 std::optional<Color> colorOf(GKeyFile* file, const char* group, const char* key)
 {
     g_key_file_set_list_separator(file, ',');
     gsize count = 0;
-    const std::unique_ptr<gint, GlibDeleter> numbers(g_key_file_get_integer_list(file, group, key, &count, nullptr));
+    const std::unique_ptr<gint, decltype(&g_free)> numbers(
+        g_key_file_get_integer_list(file, group, key, &count, nullptr), &g_free);
     const std::span components(numbers.get(), count);
     const bool isColor =
         count >= 3 && std::ranges::all_of(components, [](int component) { return component >= 0 && component <= 255; });
@@ -40,7 +33,7 @@ std::optional<Color> colorOf(GKeyFile* file, const char* group, const char* key)
 
 std::optional<Color> readAccent(const std::filesystem::path& path)
 {
-    const KeyFile file(g_key_file_new());
+    const GlibKeyFile file(g_key_file_new());
     if (g_key_file_load_from_file(file.get(), path.c_str(), G_KEY_FILE_NONE, nullptr) == FALSE) {
         return std::nullopt;
     }
