@@ -97,6 +97,32 @@ TEST(LayoutFrames, TheFirstNameFoundCountsEvenIfItsValueDoesNot)
     EXPECT_EQ(frameFromRecord({{"bounds", record({})}, {"frame", record(nested)}}), (UnitRect{0.5, 0.0, 1.0, 1.0}));
 }
 
+TEST(LayoutFrames, NamesAreTriedInAFixedOrder)
+{
+    PropertyDictionary members{{"x", real(1)},      {"minX", real(2)}, {"left", real(3)},  {"y", real(4)},
+                               {"minY", real(5)},   {"top", real(6)},  {"width", real(7)}, {"w", real(8)},
+                               {"height", real(9)}, {"h", real(10)}};
+    EXPECT_EQ(frameFromRecord(members), (UnitRect{1, 4, 7, 9}));
+    for (const auto* name : {"x", "y", "width", "height"}) {
+        members.erase(name);
+    }
+    EXPECT_EQ(frameFromRecord(members), (UnitRect{2, 5, 8, 10}));
+    members.erase("minX");
+    members.erase("minY");
+    EXPECT_EQ(frameFromRecord(members), (UnitRect{3, 6, 8, 10}));
+}
+
+TEST(LayoutFrames, OfSeveralNestedRecordsTheFirstNameCounts)
+{
+    const auto square = [](double side) {
+        return record({{"x", real(0)}, {"y", real(0)}, {"w", real(side)}, {"h", real(side)}});
+    };
+    PropertyDictionary members{{"bounds", square(3)}, {"rect", square(2)}, {"frame", square(1)}};
+    EXPECT_EQ(frameFromRecord(members), (UnitRect{0, 0, 1, 1}));
+    members.erase("frame");
+    EXPECT_EQ(frameFromRecord(members), (UnitRect{0, 0, 2, 2}));
+}
+
 TEST(LayoutFrames, ABooleanIsNoNumber)
 {
     EXPECT_EQ(frameFromRecord({{"x", {true}}, {"y", integer(0)}, {"w", integer(1)}, {"h", integer(1)}}), std::nullopt);
