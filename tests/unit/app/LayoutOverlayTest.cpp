@@ -214,6 +214,20 @@ TEST_F(LayoutOverlayTest, GivenScreensAreNotChosenAnew)
     EXPECT_EQ(desktop.overlayWindows.all().at(0)->frame, (ScreenRect{1, 901, 1918, 1053}));
 }
 
+TEST_F(LayoutOverlayTest, OnGivenScreensAWindowNeedsNoKnownPlace)
+{
+    launch();
+    window.failReading(axNames::size, axErrors::failure);
+    const auto element = WindowElementModel::frontmostWindow(platform);
+    ASSERT_FALSE(element->windowRect());
+    auto current = std::make_shared<CurrentScreen>();
+    current->screen = fixtures::primary;
+    controller().showOverlay(ScreensModel(platform, current), element);
+    EXPECT_EQ(shownLabels(), (Lines{"A"}));
+    type(keyCodes::a);
+    EXPECT_EQ(window.frame(), (AxRect{0, 25, 1440, 875}));
+}
+
 TEST_F(LayoutOverlayTest, ScreensWithoutCurrentOneShowFramesOfNoSizeAndNoLegend)
 {
     launch();

@@ -182,6 +182,21 @@ TEST_F(OverlayKeysTest, LeftAndRightGoAroundTheScreens)
     EXPECT_TRUE(isOverlayUp());
 }
 
+TEST_F(OverlayKeysTest, RightGoesOnThroughTheScreensAndLeftBack)
+{
+    desktop.screens.connect({fixtures::primary, fixtures::rightSameSize, fixtures::left});
+    open();
+    type(keyCodes::rightArrow);
+    EXPECT_EQ(desktop.overlayWindows.visible().back()->frame.x, 1441.0);
+    type(keyCodes::rightArrow);
+    EXPECT_EQ(desktop.overlayWindows.visible().back()->frame.x, -1919.0);
+    type(keyCodes::leftArrow);
+    EXPECT_EQ(desktop.overlayWindows.visible().back()->frame.x, 1441.0);
+    type(keyCodes::leftArrow);
+    type(keyCodes::leftArrow);
+    EXPECT_EQ(desktop.overlayWindows.visible().back()->frame.x, -1919.0);
+}
+
 TEST_F(OverlayKeysTest, AnotherLayoutShowsOnTheScreenThatWasChosen)
 {
     desktop.screens.connect({fixtures::primary, fixtures::rightSameSize});
