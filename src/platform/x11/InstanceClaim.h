@@ -1,8 +1,15 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <xcb/xcb.h>
+
+#include "base/Subscription.h"
+
+namespace quorvel {
+class MainQueue;
+}
 
 namespace quorvel::x11 {
 
@@ -15,15 +22,23 @@ public:
     // Null if another program has claimed the display.
     static std::unique_ptr<InstanceClaim> make(Connection& connection);
 
+    // Asks the program that has claimed the display to end, and turns the main loop until it has. Null if it does not.
+    static std::unique_ptr<InstanceClaim> takeOver(Connection& connection, MainQueue& mainQueue);
+
     InstanceClaim(const InstanceClaim&) = delete;
     InstanceClaim& operator=(const InstanceClaim&) = delete;
     ~InstanceClaim();
 
+    // Runs, from the main loop, when another program takes the claim over and waits for this one to end.
+    void setLostHandler(std::function<void()> handler) { onLost = std::move(handler); }
+
 private:
-    explicit InstanceClaim(Connection& connection);
+    InstanceClaim(Connection& connection, xcb_atom_t selection);
 
     Connection& connection;
     xcb_window_t window;
+    std::function<void()> onLost;
+    Subscription loss;
 };
 
 } // namespace quorvel::x11

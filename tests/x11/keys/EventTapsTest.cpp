@@ -105,6 +105,31 @@ TEST_F(EventTapsTest, AKeyTypedWhileTheLastOneIsStillDownReachesTheWindow)
     EXPECT_THAT(seen, ElementsAre(keyB));
 }
 
+TEST_F(EventTapsTest, AKeyTypedWhileAKeyOfASmallSetIsDownReachesTheWindow)
+{
+    ASSERT_TRUE(tap->setKeysOfInterest({keyB, escape}));
+    keys.press(XKB_KEY_b);
+    expectSeen({keyB});
+    keys.press(XKB_KEY_x);
+    desktop.waitFor("the key to be handed on", [&] { return !desktop.pressesInWindow().empty(); });
+    keys.release(XKB_KEY_x);
+    keys.release(XKB_KEY_b);
+    keys.tap(XKB_KEY_b);
+    expectSeen({keyB, keyB});
+    expectOnlyArrives({XKB_KEY_x}, XKB_KEY_y);
+}
+
+TEST_F(EventTapsTest, TwoKeysOfASmallSetCanBeDownAtATime)
+{
+    ASSERT_TRUE(tap->setKeysOfInterest({keyB, escape}));
+    keys.press(XKB_KEY_b);
+    keys.press(XKB_KEY_Escape);
+    keys.release(XKB_KEY_b);
+    keys.release(XKB_KEY_Escape);
+    expectSeen({keyB, escape});
+    expectOnlyArrives({}, XKB_KEY_x);
+}
+
 TEST_F(EventTapsTest, AModifierHeldWhileLeavingDoesNotEndTheWait)
 {
     ASSERT_TRUE(tap->setKeysOfInterest(allKeyCodes()));

@@ -4,7 +4,9 @@
 #include <sys/socket.h>
 
 #include "platform/x11/Connection.h"
+#include "platform/x11/ConnectionSource.h"
 #include "support/XClient.h"
+#include "x11/windows/AdapterLoop.h"
 
 namespace quorvel::x11 {
 namespace {
@@ -36,6 +38,28 @@ TEST_F(InstanceClaimTest, AProgramThatCrashedLeavesNoClaimBehind)
     ::shutdown(xcb_get_file_descriptor(first->xcb()), SHUT_RDWR);
     client.waitFor("the claim to go", [&] { return client.selectionOwner("_QUORVEL_S0") == XCB_NONE; });
     EXPECT_NE(InstanceClaim::make(*second), nullptr);
+}
+
+TEST_F(InstanceClaimTest, AProgramTakesOverOnceTheOtherHasEnded)
+{
+    AdapterLoop loop(client);
+    const ConnectionSource firstSource(*first);
+    const ConnectionSource secondSource(*second);
+    auto claim = InstanceClaim::make(*first);
+    int asked = 0;
+    claim->setLostHandler([&] {
+        ++asked;
+        loop.mainLoop().async([&] { claim.reset(); });
+    });
+    EXPECT_NE(InstanceClaim::takeOver(*second, loop.mainLoop()), nullptr);
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(claim, nullptr);
+}
+
+TEST_F(InstanceClaimTest, WhereNobodyRunsThereIsNothingToWaitFor)
+{
+    AdapterLoop loop(client);
+    EXPECT_NE(InstanceClaim::takeOver(*first, loop.mainLoop()), nullptr);
 }
 
 } // namespace

@@ -4,8 +4,9 @@
 
 namespace quorvel::x11 {
 
-KeyGrabs::Combinations KeyGrabs::take(const Combinations& combinations)
+KeyGrabs::Combinations KeyGrabs::take(const Combinations& combinations, Mode mode)
 {
+    const std::uint8_t keyboardMode = mode == Mode::stopping ? XCB_GRAB_MODE_SYNC : XCB_GRAB_MODE_ASYNC;
     struct Request {
         KeyCombination combination;
         xcb_void_cookie_t cookie;
@@ -15,7 +16,7 @@ KeyGrabs::Combinations KeyGrabs::take(const Combinations& combinations)
         if (++claims[combination] == 1) {
             requests.push_back(
                 {combination, xcb_grab_key_checked(connection.xcb(), 0, connection.root(), combination.modifiers,
-                                                   combination.keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)});
+                                                   combination.keycode, XCB_GRAB_MODE_ASYNC, keyboardMode)});
         }
     }
     Combinations refused;

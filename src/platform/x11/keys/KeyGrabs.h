@@ -25,13 +25,18 @@ class KeyGrabs {
 public:
     using Combinations = std::vector<KeyCombination>;
 
+    // What becomes of further keys while a taken key is down: they all come here, or the keyboard stops after each one
+    // until KeyboardGrab decides whether it goes on to the application.
+    enum class Mode { swallowing, stopping };
+
     explicit KeyGrabs(Connection& connection) : connection(connection) {}
     KeyGrabs(const KeyGrabs&) = delete;
     KeyGrabs& operator=(const KeyGrabs&) = delete;
     ~KeyGrabs() = default;
 
-    // Takes combinations, however many, in one round trip. Answers those that another program holds.
-    Combinations take(const Combinations& combinations);
+    // Takes combinations, however many, in one round trip. Answers those that another program holds. One that is taken
+    // twice keeps its first mode.
+    Combinations take(const Combinations& combinations, Mode mode);
 
     // Gives back what take() gave. Afterwards, keys that nobody holds any more go to the application again; a key that
     // is down stays here until it is released.

@@ -110,14 +110,14 @@ void KeyboardGrab::releaseAtOnce()
 
 void KeyboardGrab::follow(const KeyStroke& stroke, StrokeOutcome outcome)
 {
-    if (phase != Phase::leaving) {
+    if (phase == Phase::taken) {
         return;
     }
     const bool isForApplication = stroke.kind == KeyStroke::Kind::press && outcome == StrokeOutcome::untaken &&
                                   !keyboard.mapping().isModifier(stroke.keycode);
     if (isForApplication) {
         handOn();
-    } else if (events.heldKeys().empty()) {
+    } else if (phase == Phase::leaving && events.heldKeys().empty()) {
         releaseAtOnce();
     } else {
         allowNextStroke();

@@ -17,8 +17,8 @@ class Keyboard;
 // The whole keyboard, taken away from the applications for a while.
 //
 // Giving it back while a key is down would let the key's auto-repeat type into the focused window. So the keyboard is
-// kept until the keys are up, frozen after each stroke: a further key that belongs to the application is not lost but
-// handed on, and the keyboard with it.
+// kept until the keys are up, stopped after each stroke: a further key that belongs to the application is not lost but
+// handed on, and the keyboard with it. While a single key is grabbed and down, further keys are treated the same way.
 //
 //      free --take--> taken --release--> leaving --keys up, or a key for the application--> free
 //                       ^------- take -----'

@@ -130,7 +130,7 @@ bool X11EventTaps::grabWholeKeyboard()
 bool X11EventTaps::grabKeys(const std::set<KeyCode>& keyCodes)
 {
     const auto wanted = combinationsOf(keyCodes);
-    auto refused = grabs.take(difference(wanted, taken));
+    auto refused = grabs.take(difference(wanted, taken), KeyGrabs::Mode::stopping);
     std::ranges::sort(refused);
     grabs.giveBack(difference(taken, wanted));
     taken = difference(wanted, refused);

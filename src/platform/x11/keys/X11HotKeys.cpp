@@ -102,7 +102,7 @@ KeyGrabs::Combinations X11HotKeys::combinationsOf(KeyCode keyCode, std::uint32_t
 
 KeyGrabs::Combinations X11HotKeys::takeWhatIsFree(const KeyGrabs::Combinations& combinations)
 {
-    const auto refused = grabs.take(combinations);
+    const auto refused = grabs.take(combinations, KeyGrabs::Mode::swallowing);
     KeyGrabs::Combinations taken;
     std::ranges::copy_if(combinations, std::back_inserter(taken),
                          [&](const KeyCombination& combination) { return !contains(refused, combination); });

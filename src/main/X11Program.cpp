@@ -1,0 +1,96 @@
+#include "main/X11Program.h"
+
+#include <csignal>
+#include <filesystem>
+#include <string>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "platform/NotificationCenter.h"
+#include "platform/x11/UnixSignals.h"
+#include "platform/x11/desktop/DesktopFont.h"
+
+namespace quorvel {
+
+namespace {
+
+void reportProblem(std::string_view line)
+{
+    fmt::print(stderr, "{}\n", line);
+}
+
+// Starts this program anew; the new one waits until this one has ended.
+std::vector<std::string> relaunchCommand()
+{
+    return {std::filesystem::read_symlink("/proc/self/exe").string(), "--replace"};
+}
+
+} // namespace
+
+X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
+    : loop(loop),
+      display(std::move(opened)),
+      userDefaults(x11::SettingsFile(x11::SettingsFile::defaultPath()), reportProblem),
+      notificationCenter(loop),
+      bundle(x11::X11Bundle::standardDirectories()),
+      windows(*display.connection, loop, {relaunchCommand(), [this] { quit(); }}),
+      keys(*display.connection, *display.keyboard, loop),
+      textLayouts(x11::desktopFontFamilies(*display.connection)),
+      textMetrics(textLayouts),
+      overlayWindows(*display.connection, loop, windows.screens, *display.keyboard, *display.graphics, textLayouts),
+      systemColors(x11::X11SystemColors::plasmaSettingsFile()),
+      permissions(*display.connection),
+      toolkit(x11::ToolkitModule::standardFile(), {}),
+      statusBar(*display.connection, bundle, toolkit),
+      alerts(bundle, toolkit),
+      platform{
+          .log = log,
+          .mainQueue = loop,
+          .userDefaults = userDefaults,
+          .notificationCenter = notificationCenter,
+          .bundle = bundle,
+          .accessibility = windows.accessibility,
+          .hotKeys = keys.hotKeys,
+          .eventTaps = keys.eventTaps,
+          .windowList = windows.windowList,
+          .workspace = windows.workspace,
+          .screens = windows.screens,
+          .keyboardLayout = keys.keyboardLayout,
+          .eventMonitors = keys.eventMonitors,
+          .overlayWindows = overlayWindows,
+          .textMetrics = textMetrics,
+          .systemColors = systemColors,
+          .statusBar = statusBar,
+          .permissions = permissions,
+          .alerts = alerts,
+      },
+      app(platform),
+      settingsWatcher(x11::SettingsFile(x11::SettingsFile::defaultPath()), [this] { settingsMayHaveChanged(); })
+{
+    constexpr int serverLostStatus = 1;
+    display.connection->setLostHandler([this] { this->loop.quit(serverLostStatus); });
+    display.claim->setLostHandler([this] { quit(); });
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        subscriptions.push_back(x11::onUnixSignal(number, [this] { quit(); }));
+    }
+}
+
+X11Program::~X11Program() = default;
+
+int X11Program::run()
+{
+    app.appDelegate().applicationDidFinishLaunching();
+    const int status = loop.run();
+    app.appDelegate().applicationWillTerminate();
+    return status;
+}
+
+void X11Program::settingsMayHaveChanged()
+{
+    if (userDefaults.reload()) {
+        notificationCenter.post(notificationNames::shortcutDidChange, noNotificationObject);
+    }
+}
+
+} // namespace quorvel

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "app/QuorvelApp.h"
+#include "base/Subscription.h"
+#include "main/X11Display.h"
+#include "platform/LocalNotificationCenter.h"
+#include "platform/Platform.h"
+#include "platform/x11/GlibMainLoop.h"
+#include "platform/x11/StandardOutputLog.h"
+#include "platform/x11/desktop/ToolkitModule.h"
+#include "platform/x11/desktop/X11Alerts.h"
+#include "platform/x11/desktop/X11Bundle.h"
+#include "platform/x11/desktop/X11Permissions.h"
+#include "platform/x11/desktop/X11StatusBar.h"
+#include "platform/x11/desktop/X11SystemColors.h"
+#include "platform/x11/keys/KeyAdapters.h"
+#include "platform/x11/overlays/X11OverlayWindows.h"
+#include "platform/x11/painting/TextLayouts.h"
+#include "platform/x11/painting/X11TextMetrics.h"
+#include "platform/x11/settings/PlistUserDefaults.h"
+#include "platform/x11/settings/SettingsWatcher.h"
+#include "platform/x11/windows/WindowAdapters.h"
+
+namespace quorvel {
+
+// The program for X11 desktops: every adapter, and the portable program over them.
+class X11Program {
+public:
+    X11Program(x11::GlibMainLoop& loop, X11Display display);
+    X11Program(const X11Program&) = delete;
+    X11Program& operator=(const X11Program&) = delete;
+    ~X11Program();
+
+    // Runs until somebody ends the program: its menu, a signal, the X server, or another Quorvel that takes over.
+    // Answers the exit status.
+    int run();
+
+private:
+    void quit() { loop.quit(0); }
+    void settingsMayHaveChanged();
+
+    x11::GlibMainLoop& loop;
+    X11Display display;
+
+    x11::StandardOutputLog log;
+    x11::PlistUserDefaults userDefaults;
+    LocalNotificationCenter notificationCenter;
+    x11::X11Bundle bundle;
+    x11::WindowAdapters windows;
+    x11::KeyAdapters keys;
+    x11::TextLayouts textLayouts;
+    x11::X11TextMetrics textMetrics;
+    x11::X11OverlayWindows overlayWindows;
+    x11::X11SystemColors systemColors;
+    x11::X11Permissions permissions;
+    x11::ToolkitModule toolkit;
+    x11::X11StatusBar statusBar;
+    x11::X11Alerts alerts;
+
+    Platform platform;
+    QuorvelApp app;
+    x11::SettingsWatcher settingsWatcher;
+    std::vector<Subscription> subscriptions;
+};
+
+} // namespace quorvel
