@@ -65,15 +65,13 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
           .permissions = permissions,
           .alerts = alerts,
       },
+      endingSignals(subscribeToEndingSignals()),
       app(platform),
       settingsWatcher(x11::SettingsFile(x11::SettingsFile::defaultPath()), [this] { settingsMayHaveChanged(); })
 {
     constexpr int serverLostStatus = 1;
     display.connection->setLostHandler([this] { this->loop.quit(serverLostStatus); });
     display.claim->setLostHandler([this] { quit(); });
-    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-        subscriptions.push_back(x11::onUnixSignal(number, [this] { quit(); }));
-    }
 }
 
 X11Program::~X11Program() = default;
@@ -84,6 +82,15 @@ int X11Program::run()
     const int status = loop.run();
     app.appDelegate().applicationWillTerminate();
     return status;
+}
+
+std::vector<Subscription> X11Program::subscribeToEndingSignals()
+{
+    std::vector<Subscription> signals;
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        signals.push_back(x11::onUnixSignal(number, [this] { quit(); }));
+    }
+    return signals;
 }
 
 void X11Program::settingsMayHaveChanged()

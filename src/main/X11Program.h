@@ -41,6 +41,7 @@ public:
 
 private:
     void quit() { loop.quit(0); }
+    std::vector<Subscription> subscribeToEndingSignals();
     void settingsMayHaveChanged();
 
     x11::GlibMainLoop& loop;
@@ -62,9 +63,9 @@ private:
     x11::X11Alerts alerts;
 
     Platform platform;
+    std::vector<Subscription> endingSignals; // first, so that a program that is still starting ends in good order, too
     QuorvelApp app;
     x11::SettingsWatcher settingsWatcher;
-    std::vector<Subscription> subscriptions;
 };
 
 } // namespace quorvel
