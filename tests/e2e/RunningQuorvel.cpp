@@ -51,8 +51,9 @@ Steps growthSteps(xtest::XClient& client, xcb_window_t window)
 } // namespace
 
 RunningQuorvel::RunningQuorvel(xtest::TestDisplay& display, const std::filesystem::path& executable,
-                               const xtest::TemporaryDirectory& configuration)
-    : display(display), running(display.server, executable, configuration)
+                               const xtest::TemporaryDirectory& configuration,
+                               const xtest::ProgramUnderTest::Options& options)
+    : display(display), running(display.server, executable, configuration, options)
 {
     running.waitForLineStartingWith(lastRegistration);
 }

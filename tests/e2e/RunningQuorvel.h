@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -15,7 +16,8 @@ class RunningQuorvel {
 public:
     // Starts the program and waits until its hot keys are there. The configuration folder outlives it.
     RunningQuorvel(xtest::TestDisplay& display, const std::filesystem::path& executable,
-                   const xtest::TemporaryDirectory& configuration);
+                   const xtest::TemporaryDirectory& configuration,
+                   const xtest::ProgramUnderTest::Options& options = {});
 
     xtest::ProgramUnderTest& program() { return running; }
 

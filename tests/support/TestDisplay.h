@@ -20,9 +20,12 @@ public:
     // Starts the window manager; one at a time.
     WindowManagerProcess& startWindowManager(WindowManager manager)
     {
-        windowManager = std::make_unique<WindowManagerProcess>(server, client, manager);
-        return *windowManager;
+        managerProcess = std::make_unique<WindowManagerProcess>(server, client, manager);
+        return *managerProcess;
     }
+
+    // The one that was started.
+    WindowManagerProcess& windowManager() { return *managerProcess; }
 
     XServer server;
     XClient client{server};
@@ -31,7 +34,7 @@ public:
     Grabs grabs{client};
 
 private:
-    std::unique_ptr<WindowManagerProcess> windowManager;
+    std::unique_ptr<WindowManagerProcess> managerProcess;
 };
 
 } // namespace quorvel::xtest

@@ -24,16 +24,16 @@ window.label.text.justify: center
 window.*.title.bg: flat solid
 window.*.label.bg: parentrelative
 window.*.button.*.bg: parentrelative
-window.active.border.color: #b4bac3
-window.active.title.bg.color: #e9ecf0
-window.active.title.separator.color: #d3d8de
-window.active.label.text.color: #23282f
-window.active.button.*.image.color: #5b6470
-window.inactive.border.color: #c9ced6
-window.inactive.title.bg.color: #f4f5f7
-window.inactive.title.separator.color: #e2e5ea
-window.inactive.label.text.color: #8a929d
-window.inactive.button.*.image.color: #aab1bb
+window.active.border.color: #15181c
+window.active.title.bg.color: #3a414b
+window.active.title.separator.color: #3a414b
+window.active.label.text.color: #f1f4f7
+window.active.button.*.image.color: #c3cad3
+window.inactive.border.color: #1d2126
+window.inactive.title.bg.color: #2f353d
+window.inactive.title.separator.color: #2f353d
+window.inactive.label.text.color: #8d97a4
+window.inactive.button.*.image.color: #6d7783
 )";
 
 constexpr auto windowManagerSettings = R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -128,7 +128,7 @@ void Desk::openWindows()
 {
     plannerProcess = open({QUORVEL_SAMPLE_WINDOW, "planner"}, {860, 110, 660, 430});
     terminalProcess = open({"xterm", "-title", "atlas", "-fa", "DejaVu Sans Mono", "-fs", "11", "-bg", "#20252c", "-fg",
-                            "#dde1e6", "-bw", "0", "-b", "10", "-e", "sh", "-c", terminalScript},
+                            "#dde1e6", "-bw", "0", "-b", "9", "-e", "sh", "-c", terminalScript},
                            {640, 480, 820, 440});
     letterProcess = open({QUORVEL_SAMPLE_WINDOW, "notes"}, {110, 150, 640, 560});
 }

@@ -113,10 +113,15 @@ int main(int argc, char** argv)
     QApplication::setStyle("fusion");
     QApplication::setFont(QFont("Inter", 10));
     QPalette palette;
-    palette.setColor(QPalette::Window, QColor(0xFA, 0xFA, 0xFB));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xF4, 0xF6, 0xF9));
-    palette.setColor(QPalette::Highlight, QColor(0x3B, 0x82, 0xC4));
+    palette.setColor(QPalette::Window, QColor(0x2A, 0x2F, 0x37));
+    palette.setColor(QPalette::Base, QColor(0x2A, 0x2F, 0x37));
+    palette.setColor(QPalette::AlternateBase, QColor(0x30, 0x36, 0x3F));
+    palette.setColor(QPalette::Button, QColor(0x38, 0x3F, 0x49));
+    palette.setColor(QPalette::WindowText, QColor(0xE4, 0xE8, 0xED));
+    palette.setColor(QPalette::Text, QColor(0xE4, 0xE8, 0xED));
+    palette.setColor(QPalette::ButtonText, QColor(0xB8, 0xC0, 0xCA));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x94, 0x9E, 0xAB));
+    palette.setColor(QPalette::Highlight, QColor(0x4F, 0x9D, 0xE0));
     QApplication::setPalette(palette);
 
     QWidget window;
