@@ -115,8 +115,8 @@ public:
 
     virtual std::expected<ProcessId, AxError> processId(const AxElementRef& element) = 0;
 
-    virtual std::expected<std::unique_ptr<AxObserver>, AxError> createObserver(
-        ProcessId process, std::function<void(std::string_view name)> callback) = 0;
+    virtual std::expected<std::unique_ptr<AxObserver>, AxError>
+    createObserver(ProcessId process, std::function<void(std::string_view name)> callback) = 0;
 };
 
 } // namespace quorvel

@@ -13,9 +13,12 @@ debianPackages() {
         echo libxcb-render0-dev libxcb-render-util0-dev libxcb-xkb-dev libxcb-keysyms1-dev libxcb-icccm4-dev
         # the tests that are built beside them
         echo libxcb-damage0-dev libxcb-xtest0-dev
+        # the icons are drawn as SVG
+        echo librsvg2-bin
         ;;
     tests)
-        echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils x11-xserver-utils xkb-data dbus-daemon dbus fonts-dejavu-core
+        echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils x11-xserver-utils xkb-data dbus-daemon dbus
+        echo fonts-dejavu-core fonts-inter
         echo openbox metacity xfwm4 icewm fluxbox i3-wm kwin-x11 breeze
         echo picom xterm mousepad trayer adwaita-icon-theme
         ;;
