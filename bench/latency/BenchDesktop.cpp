@@ -37,7 +37,9 @@ BenchDesktop::BenchDesktop(Compositing compositing)
 
 std::unique_ptr<ChildProcess> BenchDesktop::start(std::vector<std::string> words) const
 {
-    return std::make_unique<ChildProcess>(Command{std::move(words), server.clientEnvironment(), {}});
+    auto environment = server.clientEnvironment();
+    environment["SHELL"] = "/bin/sh"; // what the shortcut daemon runs commands with
+    return std::make_unique<ChildProcess>(Command{std::move(words), std::move(environment), {}});
 }
 
 std::unique_ptr<ChildProcess> BenchDesktop::startShortcutDaemon(const std::string& configuration)

@@ -228,12 +228,17 @@ std::optional<Options> parse(int count, char** words)
 
 int run(const Options& options)
 {
-    const std::vector<Report> reports = {overlayReport(Compositing::off, options.runs),
-                                         overlayReport(Compositing::on, options.runs), placementReport(options.runs)};
+    const std::function<Report()> measurements[] = {
+        [&] { return overlayReport(Compositing::off, options.runs); },
+        [&] { return overlayReport(Compositing::on, options.runs); },
+        [&] { return placementReport(options.runs); },
+    };
     bool met = true;
     std::string csv;
-    for (const auto& report : reports) {
+    for (const auto& measure : measurements) {
+        const auto report = measure();
         fmt::print("{}\n", report.text());
+        std::fflush(stdout);
         csv += report.csv();
         met = met && report.allBudgetsMet();
     }
