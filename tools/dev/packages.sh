@@ -23,7 +23,7 @@ debianPackages() {
         echo picom xterm mousepad trayer adwaita-icon-theme
         ;;
     bench)
-        echo xvfb openbox picom xterm rofi sxhkd wmctrl xdotool fonts-dejavu-core
+        echo libbenchmark-dev xvfb openbox picom xterm rofi sxhkd wmctrl fonts-dejavu-core
         ;;
     lint)
         echo clang-format-19 clang-tidy-19 shellcheck python3 git
