@@ -12,7 +12,7 @@ LAYERS = ["base", "platform", "settings", "system", "layouts", "preferences", "a
 
 # Libraries that run everywhere; any other header with a folder or a suffix belongs to a platform.
 PORTABLE_LIBRARIES = re.compile(r"(fmt|nlohmann)/|utf8proc\.h$")
-TEST_LIBRARIES = re.compile(r"(gtest|gmock)/")
+TEST_LIBRARIES = re.compile(r"(gtest|gmock|benchmark)/")
 STANDARD_HEADER = re.compile(r"[a-z_]+$")
 
 # Tests and benchmarks that run on a real platform.
