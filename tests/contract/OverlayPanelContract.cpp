@@ -80,6 +80,7 @@ TEST_F(OverlayPanelContract, APanelThatIsOrderedOutGivesTheKeyboardBackToTheActi
     panel->orderOut();
     workspace.activate(editor.process);
     EXPECT_FALSE(panel->isKey());
+    desktop->settle();
     ASSERT_TRUE(desktop->waitUntil([&] { return desktop->isFocused(editor); }));
     desktop->pressKey(keyB);
 
@@ -92,6 +93,7 @@ TEST_F(OverlayPanelContract, APanelCanBeKeyAgain)
     show();
     panel->orderOut();
     workspace.activate(editor.process);
+    desktop->settle();
     ASSERT_TRUE(desktop->waitUntil([&] { return desktop->isFocused(editor); }));
 
     show();
@@ -115,6 +117,7 @@ TEST_F(OverlayPanelContract, ADestroyedPanelHearsNothing)
     show();
     panel.reset();
     workspace.activate(editor.process);
+    desktop->settle();
     ASSERT_TRUE(desktop->waitUntil([&] { return desktop->isFocused(editor); }));
 
     desktop->pressKey(keyB);

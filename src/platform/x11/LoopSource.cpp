@@ -45,7 +45,9 @@ void LoopSource::dispatchAt(std::optional<Clock::time_point> time)
 
 void LoopSource::wake()
 {
-    g_main_context_wakeup(nullptr);
+    if (g_main_context_is_owner(g_main_context_default()) == FALSE) {
+        g_main_context_wakeup(nullptr);
+    }
 }
 
 LoopSource& LoopSource::owner(GSource* source)

@@ -27,7 +27,7 @@ protected:
     // Calls dispatch() at that time, again and again until told another one.
     void dispatchAt(std::optional<Clock::time_point> time);
 
-    // Makes a waiting loop ask hasWork(). May be called from any thread.
+    // Makes the loop ask hasWork() even if it is waiting. May be called from any thread.
     static void wake();
 
 private:

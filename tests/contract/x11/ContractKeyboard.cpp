@@ -12,8 +12,8 @@ namespace quorvel::contract {
 using Modifier = xtest::KeyInjector::Modifier;
 
 ContractKeyboard::ContractKeyboard(const xtest::XServer& server, xtest::KeyInjector& injector,
-                                   const x11::KeyMapping& mapping)
-    : injector(injector), mapping(mapping), other(xcb_connect(server.display().c_str(), nullptr))
+                                   const x11::Keyboard& keyboard)
+    : injector(injector), keyboard(keyboard), other(xcb_connect(server.display().c_str(), nullptr))
 {}
 
 ContractKeyboard::~ContractKeyboard()
@@ -35,12 +35,6 @@ void ContractKeyboard::hold(KeyCode keyCode, std::uint64_t flags)
             heldModifiers.push_back(modifier);
         }
     }
-    injector.pressCode(codeOf(keyCode));
-}
-
-void ContractKeyboard::repeat(KeyCode keyCode)
-{
-    // The server takes the press of a key that is down for its repetition.
     injector.pressCode(codeOf(keyCode));
 }
 
@@ -69,8 +63,8 @@ std::vector<KeyCode> ContractKeyboard::keysReceivedBy(xcb_window_t window)
             continue;
         }
         const auto& press = reinterpret_cast<const xcb_key_press_event_t&>(*event);
-        const auto keyCode = mapping.keyCode(press.detail);
-        if (keyCode && !mapping.isModifier(press.detail)) {
+        const auto keyCode = keyboard.mapping().keyCode(press.detail);
+        if (keyCode && !keyboard.mapping().isModifier(press.detail)) {
             received[press.event].push_back(*keyCode);
         }
     }
@@ -82,8 +76,8 @@ void ContractKeyboard::takeHotKeyElsewhere(std::uint32_t keyCode, std::uint32_t 
     const auto* const setup = xcb_get_setup(other);
     const xcb_window_t root = xcb_setup_roots_iterator(setup).data->root;
     const xtest::XReply<xcb_generic_error_t> error(xcb_request_check(
-        other, xcb_grab_key_checked(other, 0, root, mapping.state(modifiers), codeOf(static_cast<KeyCode>(keyCode)),
-                                    XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)));
+        other, xcb_grab_key_checked(other, 0, root, keyboard.mapping().state(modifiers),
+                                    codeOf(static_cast<KeyCode>(keyCode)), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)));
     if (error) {
         throw xtest::HarnessError("the combination is taken already");
     }
@@ -91,7 +85,7 @@ void ContractKeyboard::takeHotKeyElsewhere(std::uint32_t keyCode, std::uint32_t 
 
 std::uint8_t ContractKeyboard::codeOf(KeyCode keyCode) const
 {
-    const auto keycodes = mapping.keycodes(keyCode);
+    const auto keycodes = keyboard.mapping().keycodes(keyCode);
     if (keycodes.empty()) {
         throw xtest::HarnessError("the keyboard lacks a key");
     }

@@ -8,7 +8,7 @@
 #include <xcb/xcb.h>
 
 #include "base/Keys.h"
-#include "platform/x11/keys/KeyMapping.h"
+#include "platform/x11/keys/Keyboard.h"
 #include "support/KeyInjector.h"
 #include "support/XClient.h"
 
@@ -17,15 +17,14 @@ namespace quorvel::contract {
 // The keyboard of a display as a person types on it and as other programs hear it.
 class ContractKeyboard {
 public:
-    // The mapping tells which of the server's key codes is which key.
-    ContractKeyboard(const xtest::XServer& server, xtest::KeyInjector& injector, const x11::KeyMapping& mapping);
+    // The keyboard tells which of the server's key codes is which key.
+    ContractKeyboard(const xtest::XServer& server, xtest::KeyInjector& injector, const x11::Keyboard& keyboard);
     ContractKeyboard(const ContractKeyboard&) = delete;
     ContractKeyboard& operator=(const ContractKeyboard&) = delete;
     ~ContractKeyboard();
 
     // Keys with eventFlags; release() lets go of the modifiers that hold() pressed.
     void hold(KeyCode keyCode, std::uint64_t flags);
-    void repeat(KeyCode keyCode);
     void release(KeyCode keyCode);
 
     // Notes from now on which keys arrive in a window of any program.
@@ -39,7 +38,7 @@ private:
     std::uint8_t codeOf(KeyCode keyCode) const;
 
     xtest::KeyInjector& injector;
-    const x11::KeyMapping& mapping;
+    const x11::Keyboard& keyboard;
     xcb_connection_t* other; // of the other programs
     std::vector<xtest::KeyInjector::Modifier> heldModifiers;
     std::map<xcb_window_t, std::vector<KeyCode>> received;

@@ -1,8 +1,10 @@
 #include "x11/windows/AdapterLoop.h"
 
-#include "support/Patience.h"
-
 namespace quorvel::x11 {
+
+AdapterLoop::AdapterLoop(xtest::XClient& client)
+    : observer(client), reminder(loop.repeat(std::chrono::seconds(1), [] {}))
+{}
 
 AdapterLoop::Observer::Observer(xtest::XClient& client) : client(client)
 {
@@ -11,14 +13,19 @@ AdapterLoop::Observer::Observer(xtest::XClient& client) : client(client)
 
 void AdapterLoop::waitFor(const std::string& what, const std::function<bool()>& predicate)
 {
-    const xtest::Deadline deadline;
-    const auto reminder = loop.repeat(std::chrono::seconds(1), [] {}); // so that the deadline is seen
+    const xtest::Deadline end;
     while (!predicate()) {
-        if (deadline.hasPassed()) {
+        if (end.hasPassed()) {
             throw xtest::HarnessError("Waited in vain for " + what);
         }
         g_main_context_iteration(nullptr, TRUE);
     }
+}
+
+bool AdapterLoop::turn()
+{
+    g_main_context_iteration(nullptr, TRUE);
+    return !deadline.hasPassed();
 }
 
 void AdapterLoop::drain()

@@ -29,6 +29,13 @@ const WindowSnapshot* ClientWindows::find(xcb_window_t window)
     return snapshot ? &*snapshot : nullptr;
 }
 
+const WindowSnapshot* ClientWindows::find(xcb_window_t window, ProcessId process)
+{
+    const auto* const snapshot = find(window);
+    const bool isSame = snapshot != nullptr && snapshot->identity.process == process && !snapshot->isWithdrawn();
+    return isSame ? snapshot : nullptr;
+}
+
 // The window manager's own list may lag behind what is on the screen; the order of the frames never does.
 std::vector<xcb_window_t> ClientWindows::frontToBack()
 {

@@ -22,6 +22,10 @@ public:
     // The window as of this turn; null if it vanished. Valid until the next call of a method.
     const WindowSnapshot* find(xcb_window_t window);
 
+    // The same for a window that was found with that process; null also if the window is withdrawn or, its number
+    // having been given away again, is another one.
+    const WindowSnapshot* find(xcb_window_t window, ProcessId process);
+
     // All that have not vanished, front to back.
     std::vector<xcb_window_t> frontToBack();
 

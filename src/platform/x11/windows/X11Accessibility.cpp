@@ -112,13 +112,13 @@ std::expected<ProcessId, AxError> X11Accessibility::processId(const AxElementRef
 std::expected<std::unique_ptr<AxObserver>, AxError>
 X11Accessibility::createObserver(ProcessId /*process*/, std::function<void(std::string_view name)> callback)
 {
-    return std::make_unique<X11AxObserver>(watcher, std::move(callback));
+    return std::make_unique<X11AxObserver>(windows, watcher, std::move(callback));
 }
 
 std::expected<X11Accessibility::WindowTarget, AxError> X11Accessibility::resolve(const X11AxElement& element)
 {
-    const auto* const snapshot = windows.find(element.window());
-    if (snapshot == nullptr || snapshot->identity.process != element.process() || snapshot->isWithdrawn()) {
+    const auto* const snapshot = windows.find(element.window(), element.process());
+    if (snapshot == nullptr) {
         return std::unexpected(axErrors::invalidElement);
     }
     return WindowTarget{element.window(), *snapshot};

@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/x11/windows/ClientWindows.h"
 #include "platform/x11/windows/WindowWatcher.h"
 #include "platform/x11/windows/X11AxElement.h"
 
@@ -26,8 +27,9 @@ std::optional<WindowChange> changeNamed(std::string_view name)
 
 } // namespace
 
-X11AxObserver::X11AxObserver(WindowWatcher& watcher, std::function<void(std::string_view name)> callback)
-    : watcher(watcher), delivery(std::make_shared<Delivery>(std::move(callback)))
+X11AxObserver::X11AxObserver(ClientWindows& windows, WindowWatcher& watcher,
+                             std::function<void(std::string_view name)> callback)
+    : windows(windows), watcher(watcher), delivery(std::make_shared<Delivery>(std::move(callback)))
 {}
 
 std::expected<void, AxError> X11AxObserver::addNotification(const AxElementRef& element, std::string_view name)
@@ -39,6 +41,9 @@ std::expected<void, AxError> X11AxObserver::addNotification(const AxElementRef& 
     const auto awaited = changeNamed(name);
     if (!awaited || named->window() == XCB_NONE) {
         return std::unexpected(axErrors::notificationUnsupported);
+    }
+    if (windows.find(named->window(), named->process()) == nullptr) {
+        return std::unexpected(axErrors::invalidElement);
     }
     std::string text(name);
     auto listener = [delivery = delivery, awaited = *awaited, text](WindowChange change) {

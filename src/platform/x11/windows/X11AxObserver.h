@@ -11,11 +11,12 @@
 
 namespace quorvel::x11 {
 
+class ClientWindows;
 class WindowWatcher;
 
 class X11AxObserver : public AxObserver {
 public:
-    X11AxObserver(WindowWatcher& watcher, std::function<void(std::string_view name)> callback);
+    X11AxObserver(ClientWindows& windows, WindowWatcher& watcher, std::function<void(std::string_view name)> callback);
 
     std::expected<void, AxError> addNotification(const AxElementRef& element, std::string_view name) override;
     std::expected<void, AxError> removeNotification(const AxElementRef& element, std::string_view name) override;
@@ -34,6 +35,7 @@ private:
         Subscription watch;
     };
 
+    ClientWindows& windows;
     WindowWatcher& watcher;
     std::shared_ptr<Delivery> delivery;
     std::vector<Registration> registrations;

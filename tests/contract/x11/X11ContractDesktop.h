@@ -1,0 +1,91 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "contract/ContractDesktop.h"
+#include "contract/x11/ContractApplication.h"
+#include "contract/x11/ContractKeyboard.h"
+#include "platform/LocalNotificationCenter.h"
+#include "platform/x11/Connection.h"
+#include "platform/x11/ConnectionSource.h"
+#include "platform/x11/keys/KeyAdapters.h"
+#include "platform/x11/keys/Keyboard.h"
+#include "platform/x11/overlays/OverlayGraphics.h"
+#include "platform/x11/overlays/X11OverlayWindows.h"
+#include "platform/x11/painting/TextLayouts.h"
+#include "platform/x11/painting/X11TextMetrics.h"
+#include "platform/x11/settings/PlistUserDefaults.h"
+#include "platform/x11/windows/WindowAdapters.h"
+#include "support/StrutPanel.h"
+#include "support/TemporaryDirectory.h"
+#include "support/TestDisplay.h"
+#include "support/TestWindow.h"
+#include "x11/windows/AdapterLoop.h"
+
+namespace quorvel::contract {
+
+// Xvfb with openbox. Accessibility coordinates are those of the root.
+class X11ContractDesktop final : public ContractDesktop {
+public:
+    X11ContractDesktop();
+    ~X11ContractDesktop() override;
+
+    ContractPorts ports() override;
+    bool can(Capability capability) const override;
+    bool turn() override;
+    void settle() override;
+    void connectScreens(const std::vector<ContractScreen>& screens) override;
+    ContractWindow openWindow(const std::string& application, const std::string& title, const AxRect& frame) override;
+    AxRect frameOf(const ContractWindow& window) override;
+    void closeWindow(const ContractWindow& window) override;
+    void endApplication(ProcessId process) override;
+    void moveWindow(const ContractWindow& window, const AxRect& frame) override;
+    void minimizeWindow(const ContractWindow& window) override;
+    void focusWindow(const ContractWindow& window) override;
+    bool isMinimized(const ContractWindow& window) override;
+    bool isFocused(const ContractWindow& window) override;
+    void holdKey(KeyCode keyCode, std::uint64_t flags) override;
+    void repeatKey(KeyCode keyCode) override;
+    void releaseKey(KeyCode keyCode) override;
+    std::vector<KeyCode> keysReceivedBy(const ContractWindow& window) override;
+    void holdHotKeyElsewhere(std::uint32_t keyCode, std::uint32_t modifiers) override;
+    void clickMouse(AxPoint point) override;
+    std::vector<AxRect> ownWindowsOnScreen() override;
+    bool chooseFromStatusMenu(std::string_view title) override;
+    void addResource(std::string_view name, std::string_view extension, std::string_view content) override;
+    void addUnreadableResource(std::string_view name, std::string_view extension) override;
+    UserDefaults& reopenedUserDefaults() override;
+    void deny(Permission permission) override;
+
+private:
+    static xcb_window_t numberOf(const ContractWindow& window) { return static_cast<xcb_window_t>(window.id); }
+
+    void waitForWindowManager();
+    std::unique_ptr<x11::PlistUserDefaults> openUserDefaults();
+
+    xtest::TestDisplay display;
+    xtest::TemporaryDirectory files;
+    x11::AdapterLoop loop;
+
+    std::unique_ptr<x11::Connection> connection;
+    x11::ConnectionSource source;
+    x11::WindowAdapters windows;
+    std::unique_ptr<x11::Keyboard> keyboard;
+    x11::KeyAdapters keys;
+    std::unique_ptr<x11::OverlayGraphics> graphics;
+    x11::TextLayouts textLayouts;
+    x11::X11TextMetrics textMetrics;
+    x11::X11OverlayWindows overlays;
+    LocalNotificationCenter notificationCenter;
+    std::unique_ptr<x11::PlistUserDefaults> userDefaults;
+    std::unique_ptr<x11::PlistUserDefaults> laterUserDefaults;
+
+    ContractKeyboard person;
+    std::map<std::string, std::unique_ptr<ContractApplication>> applications;
+    std::vector<std::unique_ptr<xtest::StrutPanel>> panels;
+    xtest::TestWindow probe; // never shown
+};
+
+} // namespace quorvel::contract
