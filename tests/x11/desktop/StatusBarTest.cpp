@@ -42,8 +42,17 @@ protected:
     // The item's window in the tray, once it is there.
     xcb_window_t iconWindow()
     {
-        loop.waitFor("the icon", [&] { return ownWindows().size() == 1; });
+        loop.waitFor("the icon", [&] {
+            const auto windows = ownWindows();
+            return windows.size() == 1 && isOnDisplay(rectOf(windows.front()));
+        });
         return ownWindows().front();
+    }
+
+    // Not so while the tray is finding its place.
+    static bool isOnDisplay(const xtest::PixelRect& rect)
+    {
+        return rect.x >= 0 && rect.y >= 0 && rect.x + rect.width <= 1920 && rect.y + rect.height <= 1080;
     }
 
     std::set<std::uint32_t> colorsOf(xcb_window_t window)

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <string_view>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "platform/x11/Connection.h"
 #include "platform/x11/Properties.h"
+#include "platform/x11/WindowNames.h"
 
 namespace quorvel::x11 {
 
@@ -191,14 +191,12 @@ void TrayIcon::createWindow(const Look& look)
 void TrayIcon::describeWindow()
 {
     auto* const xcb = connection.xcb();
-    constexpr std::string_view name = "Quorvel";
-    constexpr std::string_view windowClass{"quorvel\0Quorvel", 16};
     constexpr std::array<std::uint32_t, 2> embedding = {0, 1}; // version, and the wish to be mapped
     const auto embeddingName = connection.atom("_XEMBED_INFO");
-    xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8, windowClass.size(),
-                        windowClass.data());
+    xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                        windowNames::instanceAndClass.size(), windowNames::instanceAndClass.data());
     xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, connection.atoms().netWmName, connection.atoms().utf8String,
-                        8, name.size(), name.data());
+                        8, windowNames::title.size(), windowNames::title.data());
     xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, embeddingName, embeddingName, 32, embedding.size(),
                         embedding.data());
     const SizeHints hints;

@@ -9,14 +9,13 @@
 #include <xcb/shape.h>
 
 #include "platform/x11/Connection.h"
+#include "platform/x11/WindowNames.h"
 
 namespace quorvel::x11 {
 
 namespace {
 
 constexpr std::uint8_t alphaDepth = 32;
-constexpr std::string_view windowClass{"quorvel\0Quorvel", 16}; // instance and class, each with its end
-constexpr std::string_view windowTitle = "Quorvel";
 
 // A true-colour visual whose pixels are laid out as Pixel is.
 std::optional<xcb_visualid_t> findVisual(const xcb_screen_t& screen)
@@ -112,8 +111,8 @@ void OverlayGraphics::setProperties(xcb_window_t window)
     const auto setValue = [&](xcb_atom_t name, xcb_atom_t type, std::uint32_t value) {
         xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, name, type, 32, 1, &value);
     };
-    setText(XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, windowClass);
-    setText(atoms.netWmName, atoms.utf8String, windowTitle);
+    setText(XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, windowNames::instanceAndClass);
+    setText(atoms.netWmName, atoms.utf8String, windowNames::title);
     setValue(atoms.netWmWindowType, XCB_ATOM_ATOM, atoms.netWmWindowTypeNotification);
     setValue(compositorShadow, XCB_ATOM_CARDINAL, 0);
 }

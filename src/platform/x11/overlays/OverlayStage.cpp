@@ -64,9 +64,13 @@ void OverlayStage::schedule(OverlaySurface& surface)
 
 void OverlayStage::commit()
 {
-    for (auto* const surface : std::exchange(scheduled, {})) {
-        surface->commit();
+    for (auto* const surface : scheduled) {
+        surface->prepare();
     }
+    for (auto* const surface : scheduled) {
+        surface->show();
+    }
+    scheduled.clear();
 }
 
 Blending OverlayStage::blending() const

@@ -71,7 +71,7 @@ void OverlaySurface::scheduleIfShown()
     }
 }
 
-void OverlaySurface::commit()
+void OverlaySurface::prepare()
 {
     if (!isShown) {
         return;
@@ -84,6 +84,13 @@ void OverlaySurface::commit()
     }
     if (std::exchange(isRaiseDue, false)) {
         stage.stacking.raise(xWindow, description.level, age);
+    }
+}
+
+void OverlaySurface::show()
+{
+    if (!isShown) {
+        return;
     }
     if (!std::exchange(isMapped, true)) {
         xcb_map_window(stage.connection.xcb(), xWindow);

@@ -38,8 +38,10 @@ public:
     // Additional events that the window's owner wants, from its next showing on.
     void setEventMask(std::uint32_t mask) { ownersEventMask = mask; }
 
-    // For the stage: brings the server up to date.
-    void commit();
+    // For the stage: brings the server up to date, in two steps. All windows are prepared before the first is shown, so
+    // that a compositor sees them come at once and paints them together.
+    void prepare();
+    void show();
 
     // For the stage: draws anew because blending has become available or unavailable.
     void invalidate();

@@ -29,7 +29,8 @@ void X11OverlayPanel::makeKey()
     if (!isVisible()) {
         return;
     }
-    surface.commit(); // the server gives the focus only to windows that are shown
+    surface.prepare(); // the server gives the focus only to windows that are shown
+    surface.show();
     xcb_set_input_focus(connection.xcb(), XCB_INPUT_FOCUS_POINTER_ROOT, surface.window(), XCB_CURRENT_TIME);
     hasFocus = true;
 }

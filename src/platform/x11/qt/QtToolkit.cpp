@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
+#include <clocale>
 #include <cstdlib>
 #include <string_view>
 #include <utility>
@@ -51,7 +52,7 @@ void addItem(QMenu& menu, const MenuItem& item, const std::function<void(MenuCom
 
 QtToolkit::Arguments::Arguments(const char* displayName) : texts{"quorvel", "-platform", "xcb"}
 {
-    if (std::string_view(displayName) != "") {
+    if (!std::string_view(displayName).empty()) {
         texts.insert(texts.end(), {"-display", displayName});
     }
     // Elsewhere Qt would load GTK for its dialogs and colours, with a connection to the display of its own.
@@ -68,6 +69,8 @@ QtToolkit::Arguments::Arguments(const char* displayName) : texts{"quorvel", "-pl
 QtToolkit::QtToolkit(const char* displayName)
     : arguments(displayName), application(arguments.count, arguments.pointers.data())
 {
+    // Qt has taken over the user's locale as a whole; files hold numbers with a point all the same.
+    std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("quorvel");
     QApplication::setApplicationDisplayName("Quorvel");
     QApplication::setQuitOnLastWindowClosed(false);
