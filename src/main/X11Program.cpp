@@ -78,6 +78,7 @@ X11Program::~X11Program() = default;
 
 int X11Program::run()
 {
+    settingsMayHaveChanged(); // while the program started, before anybody watched the file
     app.appDelegate().applicationDidFinishLaunching();
     const int status = loop.run();
     app.appDelegate().applicationWillTerminate();
