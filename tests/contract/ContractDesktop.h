@@ -31,7 +31,6 @@ struct ContractScreen {
 enum class Capability {
     denyPermissions, // the platform has permissions, and the test can take one away
     keepKeysOfATap,  // a held key that a tap took stays taken until it is released
-    repeatHeldKeys,  // a held key repeats when the test says so, not by a clock
 };
 
 // A desktop with the ports of one platform under test, and the verbs of the person and the other programs on it. It is
@@ -79,8 +78,7 @@ public:
     virtual bool isMinimized(const ContractWindow& window) = 0;
     virtual bool isFocused(const ContractWindow& window) = 0;
 
-    // Keys, with eventFlags. holdKey() leaves key and modifiers down; repeatKey() is one auto-repeat of a held
-    // key, only with Capability::repeatHeldKeys;
+    // Keys, with eventFlags. holdKey() leaves key and modifiers down; repeatKey() is one auto-repeat of a held key;
     // releaseKey() lets go of it and its modifiers.
     virtual void holdKey(KeyCode keyCode, std::uint64_t flags) = 0;
     virtual void repeatKey(KeyCode keyCode) = 0;

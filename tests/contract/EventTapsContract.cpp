@@ -180,9 +180,6 @@ TEST_F(EventTapsContract, AHotKeyGoesBeforeTheTap)
 // A mode that starts on a hot key takes all keys while that key is still held.
 TEST_F(EventTapsContract, TheRepetitionOfAHeldHotKeyIsNotSeen)
 {
-    if (!desktop->can(Capability::repeatHeldKeys)) {
-        GTEST_SKIP() << "On this platform keys repeat by a clock only.";
-    }
     installHotKey(keyB);
     desktop->holdKey(keyB, hotKeyFlags);
     ASSERT_TRUE(desktop->waitUntil([&] { return hotKeyPresses == 1; }));
@@ -202,9 +199,6 @@ TEST_F(EventTapsContract, TheRepetitionOfAHeldHotKeyIsNotSeen)
 
 TEST_F(EventTapsContract, EachAutoRepeatOfADroppedKeyIsSeenAndDropped)
 {
-    if (!desktop->can(Capability::repeatHeldKeys)) {
-        GTEST_SKIP() << "On this platform keys repeat by a clock only.";
-    }
     const auto tap = startTap({keyB});
 
     desktop->holdKey(keyB, 0);
@@ -256,9 +250,6 @@ TEST_F(EventTapsContract, AChangedInterestHoldsForTheNextKey)
 // A mode that ends on the press of a key must not let that key's repetition type into the application.
 TEST_F(EventTapsContract, AKeyHeldBeyondTheEndOfTheInterestReachesNobodyUntilItIsReleased)
 {
-    if (!desktop->can(Capability::repeatHeldKeys)) {
-        GTEST_SKIP() << "On this platform keys repeat by a clock only.";
-    }
     if (!desktop->can(Capability::keepKeysOfATap)) {
         GTEST_SKIP() << "On this platform a tap decides about each repetition anew.";
     }

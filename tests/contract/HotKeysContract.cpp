@@ -82,9 +82,6 @@ TEST_F(HotKeysContract, AKeyWithoutModifiersCanBeAHotKey)
 
 TEST_F(HotKeysContract, AutoRepeatOfAHeldHotKeyIsOnePress)
 {
-    if (!desktop->can(Capability::repeatHeldKeys)) {
-        GTEST_SKIP() << "On this platform keys repeat by a clock only.";
-    }
     hotKeys.registerHotKey(keyB, twoModifiers, first);
 
     desktop->holdKey(keyB, twoFlags);

@@ -32,7 +32,6 @@ bool SimulatedContractDesktop::can(Capability capability) const
     switch (capability) {
     case Capability::denyPermissions:
     case Capability::keepKeysOfATap:
-    case Capability::repeatHeldKeys:
         return true;
     }
     return false;

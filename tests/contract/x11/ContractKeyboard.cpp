@@ -4,6 +4,7 @@
 #include <ranges>
 #include <utility>
 
+#include "platform/x11/keys/XcbXkb.h"
 #include "support/Patience.h"
 #include "support/XReply.h"
 
@@ -14,7 +15,9 @@ using Modifier = xtest::KeyInjector::Modifier;
 ContractKeyboard::ContractKeyboard(const xtest::XServer& server, xtest::KeyInjector& injector,
                                    const x11::Keyboard& keyboard)
     : injector(injector), keyboard(keyboard), other(xcb_connect(server.display().c_str(), nullptr))
-{}
+{
+    repeatSlowly();
+}
 
 ContractKeyboard::~ContractKeyboard()
 {
@@ -50,14 +53,12 @@ void ContractKeyboard::listenTo(xcb_window_t window)
 {
     const std::uint32_t mask = XCB_EVENT_MASK_KEY_PRESS;
     xcb_change_window_attributes(other, window, XCB_CW_EVENT_MASK, &mask);
-    const xtest::XReply<xcb_get_input_focus_reply_t> done(
-        xcb_get_input_focus_reply(other, xcb_get_input_focus(other), nullptr));
+    sync();
 }
 
 std::vector<KeyCode> ContractKeyboard::keysReceivedBy(xcb_window_t window)
 {
-    const xtest::XReply<xcb_get_input_focus_reply_t> done(
-        xcb_get_input_focus_reply(other, xcb_get_input_focus(other), nullptr));
+    sync();
     while (const xtest::XReply<xcb_generic_event_t> event{xcb_poll_for_event(other)}) {
         if (event->response_type != XCB_KEY_PRESS) {
             continue;
@@ -81,6 +82,24 @@ void ContractKeyboard::takeHotKeyElsewhere(std::uint32_t keyCode, std::uint32_t 
     if (error) {
         throw xtest::HarnessError("the combination is taken already");
     }
+}
+
+void ContractKeyboard::repeatSlowly()
+{
+    constexpr std::uint16_t delay = 1000;    // ms
+    constexpr std::uint16_t interval = 1000; // ms
+    constexpr std::array<std::uint8_t, 32> perKey{};
+    xcb_xkb_use_extension_unchecked(other, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
+    xcb_xkb_set_controls(other, XCB_XKB_ID_USE_CORE_KBD, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+                         XCB_XKB_BOOL_CTRL_REPEAT_KEYS, delay, interval, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+                         perKey.data());
+    sync();
+}
+
+void ContractKeyboard::sync()
+{
+    const xtest::XReply<xcb_get_input_focus_reply_t> done(
+        xcb_get_input_focus_reply(other, xcb_get_input_focus(other), nullptr));
 }
 
 std::uint8_t ContractKeyboard::codeOf(KeyCode keyCode) const

@@ -23,7 +23,8 @@ public:
     ContractKeyboard& operator=(const ContractKeyboard&) = delete;
     ~ContractKeyboard();
 
-    // Keys with eventFlags; release() lets go of the modifiers that hold() pressed.
+    // Keys with eventFlags; release() lets go of the modifiers that hold() pressed. A held key repeats once a second:
+    // often enough to be waited for, and too seldom to come unawaited.
     void hold(KeyCode keyCode, std::uint64_t flags);
     void release(KeyCode keyCode);
 
@@ -35,6 +36,8 @@ public:
     void takeHotKeyElsewhere(std::uint32_t keyCode, std::uint32_t modifiers);
 
 private:
+    void repeatSlowly();
+    void sync();
     std::uint8_t codeOf(KeyCode keyCode) const;
 
     xtest::KeyInjector& injector;

@@ -48,6 +48,9 @@ X11ContractDesktop::X11ContractDesktop()
       textMetrics(textLayouts),
       overlays(*connection, loop.mainLoop(), windows.screens, *keyboard, *graphics, textLayouts),
       notificationCenter(loop.mainLoop()),
+      bundle(resourceDirectories()),
+      menus(loop.mainLoop()),
+      statusBar(*connection, bundle, menus),
       userDefaults(openUserDefaults()),
       person(display.server, display.keyboard, *keyboard),
       probe(display.server, {})
@@ -62,6 +65,7 @@ ContractPorts X11ContractDesktop::ports()
     return {.mainQueue = &loop.mainLoop(),
             .userDefaults = userDefaults.get(),
             .notificationCenter = &notificationCenter,
+            .bundle = &bundle,
             .accessibility = &windows.accessibility,
             .hotKeys = &keys.hotKeys,
             .eventTaps = &keys.eventTaps,
@@ -71,14 +75,14 @@ ContractPorts X11ContractDesktop::ports()
             .keyboardLayout = &keys.keyboardLayout,
             .eventMonitors = &keys.eventMonitors,
             .overlayWindows = &overlays,
-            .textMetrics = &textMetrics};
+            .textMetrics = &textMetrics,
+            .statusBar = &statusBar};
 }
 
 bool X11ContractDesktop::can(Capability capability) const
 {
     switch (capability) {
     case Capability::denyPermissions:
-    case Capability::repeatHeldKeys:
         return false;
     case Capability::keepKeysOfATap:
         return true;
@@ -228,10 +232,16 @@ void X11ContractDesktop::holdKey(KeyCode keyCode, std::uint64_t flags)
     person.hold(keyCode, flags);
 }
 
-// The server repeats keys by its clock.
-void X11ContractDesktop::repeatKey(KeyCode /*keyCode*/)
+// The server repeats keys by its clock only.
+void X11ContractDesktop::repeatKey(KeyCode keyCode)
 {
-    fatalError("X11 repeats no key on demand");
+    settle(); // what the key did before
+    bool hasRepeated = false;
+    const auto watching =
+        connection->addHandler<xcb_key_press_event_t>(XCB_KEY_PRESS, [&](const xcb_key_press_event_t& event) {
+            hasRepeated = hasRepeated || keyboard->mapping().keyCode(event.detail) == keyCode;
+        });
+    loop.waitFor("a key that a port has taken to repeat", [&] { return hasRepeated; });
 }
 
 void X11ContractDesktop::releaseKey(KeyCode keyCode)
@@ -288,10 +298,28 @@ void X11ContractDesktop::deny(Permission /*permission*/)
     fatalError("X11 knows no permissions");
 }
 
-// Without a status item there is nothing to choose.
-bool X11ContractDesktop::chooseFromStatusMenu(std::string_view /*title*/)
+bool X11ContractDesktop::chooseFromStatusMenu(std::string_view title)
 {
-    return false;
+    if (!tray) {
+        tray = std::make_unique<ContractTray>(display.server);
+    }
+    settle();
+    const auto icon = tray->icon();
+    if (icon == XCB_WINDOW_NONE) {
+        return false;
+    }
+    const auto place = display.client.clientRect(icon).value();
+    display.keyboard.click(place.x + place.width / 2, place.y + place.height / 2);
+    loop.waitFor("the menu of the status item", [this] { return menus.isOpen(); });
+    return menus.choose(title);
+}
+
+// The test's own resources, then those of the program.
+std::vector<std::filesystem::path> X11ContractDesktop::resourceDirectories() const
+{
+    auto directories = x11::X11Bundle::standardDirectories();
+    directories.insert(directories.begin(), files.path() / "resources");
+    return directories;
 }
 
 void X11ContractDesktop::addResource(std::string_view name, std::string_view extension, std::string_view content)

@@ -7,9 +7,13 @@
 #include "contract/ContractDesktop.h"
 #include "contract/x11/ContractApplication.h"
 #include "contract/x11/ContractKeyboard.h"
+#include "contract/x11/ContractMenus.h"
+#include "contract/x11/ContractTray.h"
 #include "platform/LocalNotificationCenter.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
+#include "platform/x11/desktop/X11Bundle.h"
+#include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/keys/KeyAdapters.h"
 #include "platform/x11/keys/Keyboard.h"
 #include "platform/x11/overlays/OverlayGraphics.h"
@@ -63,6 +67,7 @@ private:
     static xcb_window_t numberOf(const ContractWindow& window) { return static_cast<xcb_window_t>(window.id); }
 
     void waitForWindowManager();
+    std::vector<std::filesystem::path> resourceDirectories() const;
     std::unique_ptr<x11::PlistUserDefaults> openUserDefaults();
 
     xtest::TestDisplay display;
@@ -79,12 +84,16 @@ private:
     x11::X11TextMetrics textMetrics;
     x11::X11OverlayWindows overlays;
     LocalNotificationCenter notificationCenter;
+    x11::X11Bundle bundle;
+    ContractMenus menus;
+    x11::X11StatusBar statusBar;
     std::unique_ptr<x11::PlistUserDefaults> userDefaults;
     std::unique_ptr<x11::PlistUserDefaults> laterUserDefaults;
 
     ContractKeyboard person;
     std::map<std::string, std::unique_ptr<ContractApplication>> applications;
     std::vector<std::unique_ptr<xtest::StrutPanel>> panels;
+    std::unique_ptr<ContractTray> tray;
     xtest::TestWindow probe; // never shown
 };
 
