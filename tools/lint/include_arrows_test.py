@@ -54,6 +54,8 @@ class IncludeArrows(unittest.TestCase):
         self.accept("tests/unit/app/A.cpp", '#include "platform/simulated/B.h"')
         self.accept("tests/x11/A.cpp", '#include "platform/x11/B.h"')
         self.accept("tests/unit/x11/A.cpp", '#include "platform/x11/B.h"')
+        self.accept("tests/contract/x11/A.cpp", '#include "platform/x11/B.h"')
+        self.reject("tests/contract/A.cpp", '#include "platform/x11/B.h"')
         self.accept("tests/x11/A.cpp", "#include <xcb/xcb.h>")
 
     def test_the_harness_knows_no_product_code_but_base(self):
