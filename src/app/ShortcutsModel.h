@@ -1,11 +1,6 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
-#include <map>
-#include <memory>
-
-#include "base/Subscription.h"
+#include "base/Signal.h"
 
 namespace quorvel {
 
@@ -13,7 +8,7 @@ namespace quorvel {
 class ShortcutsModel {
 public:
     enum class States { idle, waitingLayoutSelection };
-    using Observer = std::function<void(States)>;
+    using Observer = Signal<States>::Observer;
 
     States state() const { return published; }
 
@@ -24,11 +19,8 @@ public:
     Subscription observeState(Observer observer);
 
 private:
-    using Observers = std::map<std::uint64_t, Observer>;
-
     States published = States::idle;
-    std::shared_ptr<Observers> observers = std::make_shared<Observers>();
-    std::uint64_t nextId = 1;
+    Signal<States> stateChanged;
 };
 
 } // namespace quorvel
