@@ -15,7 +15,9 @@
 
 namespace quorvel {
 
-AppDelegate::AppDelegate(AppDelegateEnvironment environment) : environment(std::move(environment)) {}
+AppDelegate::AppDelegate(AppDelegateEnvironment environment)
+    : environment(std::move(environment)), aboutWindowController(this->environment.platform)
+{}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -47,6 +49,11 @@ void AppDelegate::applicationWillTerminate()
     environment.blocker.stop();
 }
 
+void AppDelegate::onShowAbout()
+{
+    aboutWindowController.showWindow();
+}
+
 void AppDelegate::onShowPreferences() const
 {
     if (environment.mainController == nullptr) {
@@ -60,7 +67,7 @@ void AppDelegate::onShowGuide() const
     environment.platform.workspace.open(guideAddress());
 }
 
-MenuActions AppDelegate::menuActions() const
+MenuActions AppDelegate::menuActions()
 {
     const auto& platform = environment.platform;
     MenuActions actions;
@@ -68,6 +75,7 @@ MenuActions AppDelegate::menuActions() const
         actions.emplace(MenuCommand::checkForUpdates, [updater] { updater->checkForUpdates(); });
     }
     if (platform.preferencesUi != nullptr) {
+        actions.emplace(MenuCommand::showAbout, weakly.guard([this] { onShowAbout(); }));
         actions.emplace(MenuCommand::showPreferences, weakly.guard([this] { onShowPreferences(); }));
     }
     if (!guideAddress().empty()) {

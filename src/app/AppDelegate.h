@@ -6,6 +6,7 @@
 #include "app/StatusMenu.h"
 #include "base/WeakGuard.h"
 #include "platform/StatusBar.h"
+#include "preferences/AboutWindowController.h"
 
 namespace quorvel {
 
@@ -40,6 +41,8 @@ public:
     // Gives the keyboard back.
     void applicationWillTerminate();
 
+    void onShowAbout();
+
     // A missing main controller is a fatal error.
     void onShowPreferences() const;
 
@@ -48,10 +51,11 @@ public:
 
 private:
     // The commands that this build offers; menu entries for others are disabled.
-    MenuActions menuActions() const;
+    MenuActions menuActions();
     std::string guideAddress() const;
 
     AppDelegateEnvironment environment;
+    AboutWindowController aboutWindowController;
     std::unique_ptr<StatusItem> statusBarItem;
     WeakGuard weakly;
 };

@@ -37,7 +37,7 @@ constexpr auto largestHotKeyNumber = std::numeric_limits<std::uint32_t>::max();
 MainController::MainController(const Platform& platform, GlobalEventBlocker* blocker)
     : platform(platform),
       overlayWindowManager(platform),
-      preferencesManager(platform.preferencesUi),
+      preferencesManager(platform),
       shortcutManager(platform.hotKeys, platform.mainQueue, platform.log),
       layouts(platform.bundle, Settings(platform.userDefaults), platform.log),
       eventBlocker(blocker),

@@ -1,25 +1,24 @@
 #include "preferences/PreferencesManager.h"
 
+#include "preferences/PreferencesWindowController.h"
+
 namespace quorvel {
 
-PreferencesManager::PreferencesManager(PreferencesUi* preferencesUi) : preferencesUi(preferencesUi) {}
+PreferencesManager::PreferencesManager(const Platform& platform) : platform(platform) {}
+
+PreferencesManager::~PreferencesManager() = default;
 
 void PreferencesManager::show()
 {
-    if (!window && preferencesUi != nullptr) {
-        window = preferencesUi->createWindow();
+    if (!preferencesWindowController) {
+        preferencesWindowController = std::make_unique<PreferencesWindowController>(platform);
     }
-    if (window) {
-        window->show();
-    }
+    preferencesWindowController->showWindow();
 }
 
 std::optional<NotificationObject> PreferencesManager::windowObject() const
 {
-    if (!window) {
-        return std::nullopt;
-    }
-    return window->notificationObject();
+    return preferencesWindowController ? preferencesWindowController->windowObject() : std::nullopt;
 }
 
 } // namespace quorvel

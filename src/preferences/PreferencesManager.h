@@ -3,25 +3,31 @@
 #include <memory>
 #include <optional>
 
-#include "platform/PreferencesUi.h"
+#include "platform/NotificationCenter.h"
 
 namespace quorvel {
 
-// Owns the preferences window, one and the same from the first request to the end of the process.
+struct Platform;
+class PreferencesWindowController;
+
+// Owns the controller of the preferences window, one and the same from the first request to the end of the process.
 class PreferencesManager {
 public:
-    // `preferencesUi` is null where this build has no preferences window.
-    explicit PreferencesManager(PreferencesUi* preferencesUi);
+    // `platform` outlives the manager.
+    explicit PreferencesManager(const Platform& platform);
+    PreferencesManager(const PreferencesManager&) = delete;
+    PreferencesManager& operator=(const PreferencesManager&) = delete;
+    ~PreferencesManager();
 
-    // Creates the window on the first request and shows it; nothing happens where it cannot be made.
+    // Creates the controller on the first request and shows its window.
     void show();
 
     // The object of notifications about the window, if there is one.
     std::optional<NotificationObject> windowObject() const;
 
 private:
-    PreferencesUi* preferencesUi;
-    std::unique_ptr<PreferencesWindow> window;
+    const Platform& platform;
+    std::unique_ptr<PreferencesWindowController> preferencesWindowController;
 };
 
 } // namespace quorvel

@@ -106,7 +106,7 @@ public:
     SimulatedSystemColors systemColors;
     SimulatedStatusBar statusBar{journal, mainQueue};
     SimulatedAlerts alerts{journal, mainQueue};
-    SimulatedPreferencesUi preferencesUi{journal, notificationCenter, windowServer};
+    SimulatedPreferencesUi preferencesUi{journal, mainQueue, notificationCenter, windowServer};
     SimulatedUpdater updater{journal};
     SimulatedKeyboard keyboard;
 

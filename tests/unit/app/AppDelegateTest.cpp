@@ -83,7 +83,7 @@ TEST_F(AppDelegateTest, TheMenuHasSixEntries)
 {
     launch();
     ASSERT_EQ(menu().entries.size(), 6U);
-    EXPECT_EQ(item(0), (MenuItem{"About Quorvel...", "", MenuCommand::showAbout, false}));
+    EXPECT_EQ(item(0), (MenuItem{"About Quorvel...", "", MenuCommand::showAbout, true}));
     EXPECT_EQ(item(1), (MenuItem{"Check for Updates...", "", MenuCommand::checkForUpdates, true}));
     EXPECT_EQ(item(2), (MenuItem{"Preferences...", ",", MenuCommand::showPreferences, true}));
     EXPECT_EQ(item(3), (MenuItem{"User Guide", "", MenuCommand::showGuide, true}));
@@ -237,6 +237,15 @@ TEST_F(AppDelegateTest, WithoutAnyGuideItsEntryIsDisabled)
     EXPECT_FALSE(item(3).isEnabled);
 }
 
+TEST_F(AppDelegateTest, AboutShowsOneWindowHoweverOften)
+{
+    launch();
+    choose("About Quorvel...");
+    choose("About Quorvel...");
+    EXPECT_EQ(desktop.journal.count("PreferencesUi.createAboutWindow"), 1U);
+    EXPECT_EQ(desktop.journal.count("AboutWindow.show"), 2U);
+}
+
 TEST_F(AppDelegateTest, PreferencesOpenWithTheHotKeysGivenUp)
 {
     launch();
@@ -267,6 +276,7 @@ TEST_F(AppDelegateTest, EntriesOfWhatABuildLacksAreDisabled)
     ports.updater = nullptr;
     QuorvelApp small(ports);
     small.appDelegate().applicationDidFinishLaunching();
+    EXPECT_FALSE(item(0).isEnabled);
     EXPECT_FALSE(item(1).isEnabled);
     EXPECT_FALSE(item(2).isEnabled);
     EXPECT_TRUE(item(3).isEnabled);
@@ -275,7 +285,10 @@ TEST_F(AppDelegateTest, EntriesOfWhatABuildLacksAreDisabled)
 
 TEST_F(AppDelegateTest, ACommandWithoutActionDoesNothing)
 {
-    launch();
+    auto ports = desktop.platform();
+    ports.preferencesUi = nullptr;
+    QuorvelApp small(ports);
+    small.appDelegate().applicationDidFinishLaunching();
     const auto before = desktop.journal.entries().size();
     desktop.statusBar.items().at(0)->onCommand(MenuCommand::showAbout);
     EXPECT_EQ(desktop.journal.entries().size(), before);

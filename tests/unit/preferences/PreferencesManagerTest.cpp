@@ -10,7 +10,8 @@ namespace {
 TEST(PreferencesManager, TheWindowIsMadeOnTheFirstRequest)
 {
     SimulatedDesktop desktop;
-    PreferencesManager manager(&desktop.preferencesUi);
+    const auto platform = desktop.platform();
+    PreferencesManager manager(platform);
     EXPECT_EQ(desktop.preferencesUi.createdWindows(), 0U);
     EXPECT_FALSE(manager.windowObject());
     manager.show();
@@ -21,7 +22,8 @@ TEST(PreferencesManager, TheWindowIsMadeOnTheFirstRequest)
 TEST(PreferencesManager, LaterRequestsShowTheSameWindow)
 {
     SimulatedDesktop desktop;
-    PreferencesManager manager(&desktop.preferencesUi);
+    const auto platform = desktop.platform();
+    PreferencesManager manager(platform);
     manager.show();
     const auto first = manager.windowObject();
     desktop.preferencesUi.closeWindows();
@@ -35,8 +37,9 @@ TEST(PreferencesManager, LaterRequestsShowTheSameWindow)
 TEST(PreferencesManager, AWindowThatCannotBeMadeIsTriedAgain)
 {
     SimulatedDesktop desktop;
+    const auto platform = desktop.platform();
     desktop.preferencesUi.refuseWindows();
-    PreferencesManager manager(&desktop.preferencesUi);
+    PreferencesManager manager(platform);
     manager.show();
     manager.show();
     EXPECT_FALSE(manager.windowObject());
@@ -45,7 +48,10 @@ TEST(PreferencesManager, AWindowThatCannotBeMadeIsTriedAgain)
 
 TEST(PreferencesManager, ABuildWithoutPreferencesShowsNone)
 {
-    PreferencesManager manager(nullptr);
+    SimulatedDesktop desktop;
+    auto platform = desktop.platform();
+    platform.preferencesUi = nullptr;
+    PreferencesManager manager(platform);
     manager.show();
     EXPECT_FALSE(manager.windowObject());
 }
