@@ -153,12 +153,12 @@ TEST_F(PlistUserDefaultsTest, SettingWhatIsStoredDoesNotTouchTheFile)
 TEST_F(PlistUserDefaultsTest, KeysAndTypesThatNobodyKnowsSurviveARewrite)
 {
     write(head +
-          "<key>lastCheck</key><date>0001-01-01T00:00:00Z</date><key>huge</key>"
+          "<key>lastCheck</key><date>2025-03-01T00:00:00Z</date><key>huge</key>"
           "<integer>18446744073709551615</integer><key>window</key><array><date>2026-11-21T07:00:01Z</date>"
           "<real>0.30000000000000004</real></array>" +
           tail);
     open().setObject("a", integer(1));
-    EXPECT_THAT(contents(path), HasSubstr("<date>0001-01-01T00:00:00Z</date>"));
+    EXPECT_THAT(contents(path), HasSubstr("<date>2025-03-01T00:00:00Z</date>"));
     EXPECT_THAT(contents(path), HasSubstr("<integer>18446744073709551615</integer>"));
     EXPECT_THAT(contents(path), HasSubstr("<date>2026-11-21T07:00:01Z</date>"));
     EXPECT_THAT(contents(path), HasSubstr("<real>0.30000000000000004</real>"));

@@ -4,8 +4,6 @@
 
 #include <fmt/format.h>
 
-#include "platform/x11/settings/PropertyList.h"
-
 namespace quorvel::x11 {
 
 PlistUserDefaults::PlistUserDefaults(SettingsFile file, Report report)
@@ -20,31 +18,25 @@ PlistUserDefaults::PlistUserDefaults(SettingsFile file, Report report)
 
 std::optional<PropertyValue> PlistUserDefaults::object(std::string_view key) const
 {
-    const auto found = values.find(key);
-    return found == values.end() ? std::nullopt : propertyValue(found->second);
+    return values.value(key);
 }
 
 void PlistUserDefaults::setObject(std::string_view key, PropertyValue value)
 {
-    PlistNode node = plistNode(value);
-    const auto found = values.find(key);
-    if (found != values.end() && found->second == node && unsaved.empty()) {
+    if (values.value(key) == value && unsaved.empty()) {
         return;
     }
-    values.insert_or_assign(std::string(key), node);
-    unsaved.insert_or_assign(std::string(key), std::move(node));
+    values.set(key, value);
+    unsaved.insert_or_assign(std::string(key), std::move(value));
     save();
 }
 
 void PlistUserDefaults::removeObject(std::string_view key)
 {
-    const auto found = values.find(key);
-    if (found == values.end() && unsaved.empty()) {
+    if (!values.contains(key) && unsaved.empty()) {
         return;
     }
-    if (found != values.end()) {
-        values.erase(found);
-    }
+    values.remove(key);
     unsaved.insert_or_assign(std::string(key), std::nullopt);
     save();
 }
@@ -71,26 +63,26 @@ void PlistUserDefaults::read()
         return;
     }
     stamp = (*contents)->stamp;
-    auto dictionary = parsePropertyList((*contents)->bytes);
-    if (!dictionary) {
+    auto list = PropertyList::parse((*contents)->bytes);
+    if (!list) {
         state = FileState::damaged;
-        damage = dictionary.error();
+        damage = list.error();
         return;
     }
-    adopt(std::move(*dictionary));
+    adopt(std::move(*list));
 }
 
-void PlistUserDefaults::adopt(PlistDictionary dictionary)
+void PlistUserDefaults::adopt(PropertyList list)
 {
-    for (const auto& [key, node] : unsaved) {
-        if (node) {
-            dictionary.insert_or_assign(key, *node);
+    for (const auto& [key, value] : unsaved) {
+        if (value) {
+            list.set(key, *value);
         } else {
-            dictionary.erase(key);
+            list.remove(key);
         }
     }
-    hasForeignChange = hasForeignChange || dictionary != values;
-    values = std::move(dictionary);
+    hasForeignChange = hasForeignChange || list != values;
+    values = std::move(list);
 }
 
 void PlistUserDefaults::save()
@@ -101,7 +93,8 @@ void PlistUserDefaults::save()
     if (!clearTheWay()) {
         return;
     }
-    const auto written = file.replace(propertyListXml(values));
+    const auto bytes = values.bytes();
+    const auto written = bytes ? file.replace(*bytes) : std::unexpected(bytes.error());
     if (!written) {
         reportOnce("cannot be written; changes hold for this run", written.error());
         return;

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "platform/UserDefaults.h"
-#include "platform/x11/settings/PlistNode.h"
+#include "platform/x11/settings/PropertyList.h"
 #include "platform/x11/settings/SettingsFile.h"
 
 namespace quorvel::x11 {
@@ -37,16 +37,16 @@ private:
     enum class FileState { usable, damaged, unreadable };
 
     void read();
-    void adopt(PlistDictionary dictionary);
+    void adopt(PropertyList list);
     void save();
     bool clearTheWay();
     void reportOnce(std::string_view problem, std::string_view reason);
 
     SettingsFile file;
     Report report;
-    PlistDictionary values;
-    std::map<std::string, std::optional<PlistNode>, std::less<>> unsaved; // nothing: to be removed
-    std::optional<FileStamp> stamp;                                       // of the file that `values` agrees with
+    PropertyList values;
+    std::map<std::string, std::optional<PropertyValue>, std::less<>> unsaved; // nothing: to be removed
+    std::optional<FileStamp> stamp;                                           // of the file that `values` agrees with
     FileState state = FileState::usable;
     std::string damage; // what is wrong with a damaged file
     std::string lastLine;
