@@ -43,6 +43,23 @@ protected:
         EXPECT_EQ(desktop.pressesInWindow(), codes);
     }
 
+    // A mode ends on a key; another key comes before the loop's next turn, and then `meanwhile`.
+    void typeAcrossTheEnd(const std::function<void()>& meanwhile)
+    {
+        ASSERT_TRUE(tap->setKeysOfInterest(allKeyCodes()));
+        keys.press(XKB_KEY_b);
+        expectSeen({keyB});
+        tap->setKeysOfInterest({});
+        keys.press(XKB_KEY_x);
+        meanwhile();
+        desktop.settle();
+        keys.release(XKB_KEY_b);
+        keys.release(XKB_KEY_x);
+        expectOnlyArrives({XKB_KEY_x}, XKB_KEY_y);
+        EXPECT_TRUE(isKeyboardFree());
+        EXPECT_THAT(seen, ElementsAre(keyB));
+    }
+
     bool isKeyboardFree() { return desktop.display.grabs.isKeyboardFree(); }
 
     KeysDisplay desktop;
@@ -103,6 +120,32 @@ TEST_F(EventTapsTest, AKeyTypedWhileTheLastOneIsStillDownReachesTheWindow)
     expectOnlyArrives({XKB_KEY_x}, XKB_KEY_y);
     EXPECT_TRUE(isKeyboardFree());
     EXPECT_THAT(seen, ElementsAre(keyB));
+}
+
+TEST_F(EventTapsTest, AKeyTypedInTheMomentOfTheEndReachesTheWindow)
+{
+    typeAcrossTheEnd([] {});
+}
+
+TEST_F(EventTapsTest, AKeyTypedInTheTurnOfTheEndReachesTheWindow)
+{
+    typeAcrossTheEnd([this] {
+        desktop.connection->sync();
+        desktop.connection->dispatchEvents();
+    });
+}
+
+TEST_F(EventTapsTest, AKeyTypedBetweenTwoModesReachesNeitherAndDoesNotStopTheKeyboard)
+{
+    ASSERT_TRUE(tap->setKeysOfInterest(allKeyCodes()));
+    tap->setKeysOfInterest({});
+    keys.tap(XKB_KEY_x);
+    desktop.connection->sync();
+    desktop.connection->dispatchEvents();
+    ASSERT_TRUE(tap->setKeysOfInterest(allKeyCodes()));
+    keys.tap(XKB_KEY_b);
+    expectSeen({keyB});
+    EXPECT_THAT(desktop.pressesInWindow(), IsEmpty());
 }
 
 TEST_F(EventTapsTest, AKeyTypedWhileAKeyOfASmallSetIsDownReachesTheWindow)

@@ -5,6 +5,17 @@
 
 namespace quorvel::x11 {
 
+namespace {
+
+// Presses and releases have the same layout.
+KeyStroke strokeOf(KeyStroke::Kind kind, const xcb_key_press_event_t& event)
+{
+    const auto request = reinterpret_cast<const xcb_generic_event_t&>(event).full_sequence;
+    return {kind, event.detail, event.state, event.time, request};
+}
+
+} // namespace
+
 KeyEvents::KeyEvents(Connection& connection, const Keyboard& keyboard) : connection(connection), keyboard(keyboard)
 {
     subscriptions.push_back(connection.addHandler<xcb_key_press_event_t>(
@@ -28,7 +39,7 @@ void KeyEvents::handlePress(const xcb_key_press_event_t& event)
         return; // typed into a window of this program
     }
     latest = event.time;
-    KeyStroke stroke{KeyStroke::Kind::press, event.detail, event.state, event.time};
+    KeyStroke stroke = strokeOf(KeyStroke::Kind::press, event);
     auto outcome = StrokeOutcome::untaken;
     if (!keyboard.mapping().isModifier(event.detail)) {
         stroke.kind = notePress(event);
@@ -47,7 +58,7 @@ void KeyEvents::handleRelease(const xcb_key_release_event_t& event)
     latest = event.time;
     held.erase(event.detail);
     if (follower) {
-        follower({KeyStroke::Kind::release, event.detail, event.state, event.time}, StrokeOutcome::untaken);
+        follower(strokeOf(KeyStroke::Kind::release, event), StrokeOutcome::untaken);
     }
 }
 

@@ -23,6 +23,7 @@ struct KeyStroke {
     xcb_keycode_t keycode = 0;
     KeyState state = 0;
     xcb_timestamp_t time = XCB_CURRENT_TIME;
+    std::uint32_t request = 0; // the number of the connection's latest request before it
 };
 
 enum class StrokeOutcome { taken, untaken };

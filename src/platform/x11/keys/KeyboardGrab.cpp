@@ -37,37 +37,39 @@ KeyboardGrab::~KeyboardGrab()
 bool KeyboardGrab::take()
 {
     isReleaseDue = false;
-    if (phase == Phase::taken) {
-        return true;
-    }
-    if (!grab(XCB_GRAB_MODE_ASYNC)) {
+    const bool isStopped = std::exchange(isStrokeUndecided, false);
+    if (phase == Phase::free && !grab()) {
         return false;
+    }
+    if (isStopped || phase == Phase::free) {
+        allowNextStroke();
     }
     phase = Phase::taken;
     return true;
 }
 
-bool KeyboardGrab::grab(std::uint8_t keyboardMode)
+bool KeyboardGrab::grab()
 {
-    auto status = grabStatus(keyboardMode, events.latestTime());
+    auto status = grabStatus(events.latestTime());
     if (status == XCB_GRAB_STATUS_INVALID_TIME) {
-        status = grabStatus(keyboardMode, XCB_CURRENT_TIME);
+        status = grabStatus(XCB_CURRENT_TIME);
     }
     for (const auto pause : retryPauses) {
         if (status != XCB_GRAB_STATUS_ALREADY_GRABBED && status != XCB_GRAB_STATUS_FROZEN) {
             break;
         }
         std::this_thread::sleep_for(pause);
-        status = grabStatus(keyboardMode, XCB_CURRENT_TIME);
+        status = grabStatus(XCB_CURRENT_TIME);
     }
     return status == XCB_GRAB_STATUS_SUCCESS;
 }
 
-std::uint8_t KeyboardGrab::grabStatus(std::uint8_t keyboardMode, xcb_timestamp_t time)
+std::uint8_t KeyboardGrab::grabStatus(xcb_timestamp_t time)
 {
-    PendingReply<xcb_grab_keyboard_reply> pending(
-        connection.xcb(),
-        xcb_grab_keyboard(connection.xcb(), 0, connection.root(), time, XCB_GRAB_MODE_ASYNC, keyboardMode));
+    const auto cookie =
+        xcb_grab_keyboard(connection.xcb(), 0, connection.root(), time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
+    grabRequest = cookie.sequence;
+    PendingReply<xcb_grab_keyboard_reply> pending(connection.xcb(), cookie);
     const auto reply = pending.take();
     return reply ? reply->status : std::uint8_t{XCB_GRAB_STATUS_NOT_VIEWABLE};
 }
@@ -89,18 +91,20 @@ void KeyboardGrab::release()
     if (phase != Phase::taken) {
         return;
     }
-    if (events.heldKeys().empty() || !grab(XCB_GRAB_MODE_SYNC)) {
+    if (isStrokeUndecided) {
+        handOn();
+    } else if (events.heldKeys().empty()) {
         releaseAtOnce();
-        return;
+    } else {
+        phase = Phase::leaving;
+        lookForLostReleases();
     }
-    phase = Phase::leaving;
-    allowNextStroke();
-    lookForLostReleases();
 }
 
 void KeyboardGrab::releaseAtOnce()
 {
     isReleaseDue = false;
+    isStrokeUndecided = false;
     if (std::exchange(phase, Phase::free) != Phase::free) {
         events.forgetHeldKeys();
         xcb_ungrab_keyboard(connection.xcb(), XCB_CURRENT_TIME);
@@ -110,24 +114,35 @@ void KeyboardGrab::releaseAtOnce()
 
 void KeyboardGrab::follow(const KeyStroke& stroke, StrokeOutcome outcome)
 {
-    if (phase == Phase::taken) {
+    if (phase == Phase::leaving && events.heldKeys().empty()) {
+        releaseAtOnce();
         return;
+    }
+    if (phase != Phase::free && isFromBeforeGrab(stroke)) {
+        return; // the keyboard did not stop after it
     }
     const bool isForApplication = stroke.kind == KeyStroke::Kind::press && outcome == StrokeOutcome::untaken &&
                                   !keyboard.mapping().isModifier(stroke.keycode);
-    if (isForApplication) {
+    if (isForApplication && phase != Phase::taken) {
         handOn();
-    } else if (phase == Phase::leaving && events.heldKeys().empty()) {
-        releaseAtOnce();
+    } else if (isForApplication && isReleaseDue) {
+        isStrokeUndecided = true;
     } else {
         allowNextStroke();
     }
+}
+
+// Events bear the number of the latest request that the server had carried out.
+bool KeyboardGrab::isFromBeforeGrab(const KeyStroke& stroke) const
+{
+    return static_cast<std::int32_t>(stroke.request - grabRequest) < 0;
 }
 
 // Has the server send the latest stroke to the focused window, as if the grab had ended just before it.
 void KeyboardGrab::handOn()
 {
     phase = Phase::free;
+    isStrokeUndecided = false;
     events.forgetHeldKeys();
     xcb_allow_events(connection.xcb(), XCB_ALLOW_REPLAY_KEYBOARD, XCB_CURRENT_TIME);
     connection.flush();

@@ -17,8 +17,9 @@ class Keyboard;
 // The whole keyboard, taken away from the applications for a while.
 //
 // Giving it back while a key is down would let the key's auto-repeat type into the focused window. So the keyboard is
-// kept until the keys are up, stopped after each stroke: a further key that belongs to the application is not lost but
-// handed on, and the keyboard with it. While a single key is grabbed and down, further keys are treated the same way.
+// kept until the keys are up. The server stops it after each stroke until this program has seen to that one; so a
+// further key that belongs to the application is not lost but handed on, and the keyboard with it. While a single key
+// is grabbed and down, further keys are treated the same way.
 //
 //      free --take--> taken --release--> leaving --keys up, or a key for the application--> free
 //                       ^------- take -----'
@@ -44,9 +45,10 @@ public:
 private:
     enum class Phase { free, taken, leaving };
 
-    bool grab(std::uint8_t keyboardMode);
-    std::uint8_t grabStatus(std::uint8_t keyboardMode, xcb_timestamp_t time);
+    bool grab();
+    std::uint8_t grabStatus(xcb_timestamp_t time);
     void follow(const KeyStroke& stroke, StrokeOutcome outcome);
+    bool isFromBeforeGrab(const KeyStroke& stroke) const;
     void handOn();
     void allowNextStroke();
     void lookForLostReleases();
@@ -57,7 +59,9 @@ private:
     KeyEvents& events;
     MainQueue& mainQueue;
     Phase phase = Phase::free;
+    std::uint32_t grabRequest = 0; // its number among the connection's requests
     bool isReleaseDue = false;
+    bool isStrokeUndecided = false; // the keyboard has stopped after a key that the release would hand on
     bool isLooking = false;
     WeakGuard weakGuard;
 };
