@@ -49,11 +49,26 @@ void decide(benchmark::State& state, const std::set<KeyCode>& blocked, KeyCode p
     SimulatedDesktop desktop;
     CapturingTaps taps;
     const auto base = desktop.platform();
-    const Platform platform{base.log,           base.mainQueue,      base.userDefaults, base.notificationCenter,
-                            base.bundle,        base.accessibility,  base.hotKeys,      taps,
-                            base.windowList,    base.workspace,      base.screens,      base.keyboardLayout,
-                            base.eventMonitors, base.overlayWindows, base.textMetrics,  base.systemColors,
-                            base.statusBar,     base.permissions,    base.alerts};
+    const Platform platform{base.log,
+                            base.mainQueue,
+                            base.userDefaults,
+                            base.notificationCenter,
+                            base.bundle,
+                            base.dates,
+                            base.accessibility,
+                            base.hotKeys,
+                            taps,
+                            base.windowList,
+                            base.workspace,
+                            base.screens,
+                            base.keyboardLayout,
+                            base.eventMonitors,
+                            base.overlayWindows,
+                            base.textMetrics,
+                            base.systemColors,
+                            base.statusBar,
+                            base.permissions,
+                            base.alerts};
     GlobalEventBlocker blocker(platform);
     blocker.start();
     blocker.setBlockedKeyCodes(blocked);

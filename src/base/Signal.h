@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -38,6 +39,8 @@ public:
             }
         }
     }
+
+    std::size_t observerCount() const { return observers->size(); }
 
 private:
     using Observers = std::map<std::uint64_t, Observer>;

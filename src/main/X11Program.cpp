@@ -50,6 +50,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
           .userDefaults = userDefaults,
           .notificationCenter = notificationCenter,
           .bundle = bundle,
+          .dates = dates,
           .accessibility = windows.accessibility,
           .hotKeys = keys.hotKeys,
           .eventTaps = keys.eventTaps,

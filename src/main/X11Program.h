@@ -14,6 +14,7 @@
 #include "platform/x11/desktop/ToolkitModule.h"
 #include "platform/x11/desktop/X11Alerts.h"
 #include "platform/x11/desktop/X11Bundle.h"
+#include "platform/x11/desktop/X11Dates.h"
 #include "platform/x11/desktop/X11Permissions.h"
 #include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/desktop/X11SystemColors.h"
@@ -51,6 +52,7 @@ private:
     x11::PlistUserDefaults userDefaults;
     LocalNotificationCenter notificationCenter;
     x11::X11Bundle bundle;
+    x11::X11Dates dates;
     x11::WindowAdapters windows;
     x11::KeyAdapters keys;
     x11::TextLayouts textLayouts;

@@ -5,6 +5,7 @@ namespace quorvel {
 class Accessibility;
 class Alerts;
 class Bundle;
+class Dates;
 class EventMonitors;
 class EventTaps;
 class HotKeys;
@@ -32,6 +33,7 @@ struct Platform {
     UserDefaults& userDefaults;
     NotificationCenter& notificationCenter;
     Bundle& bundle;
+    Dates& dates;
     Accessibility& accessibility;
     HotKeys& hotKeys;
     EventTaps& eventTaps;

@@ -4,6 +4,7 @@ namespace quorvel {
 
 class Accessibility;
 class Bundle;
+class Dates;
 class EventMonitors;
 class EventTaps;
 class HotKeys;
@@ -26,6 +27,7 @@ struct ContractPorts {
     UserDefaults* userDefaults = nullptr;
     NotificationCenter* notificationCenter = nullptr;
     Bundle* bundle = nullptr;
+    Dates* dates = nullptr;
     Accessibility* accessibility = nullptr;
     HotKeys* hotKeys = nullptr;
     EventTaps* eventTaps = nullptr;

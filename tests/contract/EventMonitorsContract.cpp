@@ -84,7 +84,10 @@ TEST_F(EventMonitorsContract, KeysOfThisProgramsWindowsAreSeenUntilTheMonitorEnd
     panel->makeKey();
     ASSERT_TRUE(desktop->waitUntil([&] { return panel->isKey(); }));
     std::vector<KeyCode> seen;
-    auto monitor = monitors.addLocalKeyDownMonitor([&](const KeyEvent& event) { seen.push_back(event.keyCode); });
+    auto monitor = monitors.addLocalKeyDownMonitor([&](const KeyEvent& event) {
+        seen.push_back(event.keyCode);
+        return EventHandling::pass;
+    });
 
     desktop->pressKey(keyB);
     EXPECT_TRUE(desktop->waitUntil([&] { return seen == std::vector{keyB} && typed == std::vector{keyB}; }));
@@ -99,7 +102,10 @@ TEST_F(EventMonitorsContract, KeysOfOtherApplicationsAreNotSeen)
 {
     const auto editor = desktop->openWindow("Editor", "Notes", somewhere);
     int seen = 0;
-    const auto monitor = monitors.addLocalKeyDownMonitor([&](const KeyEvent&) { ++seen; });
+    const auto monitor = monitors.addLocalKeyDownMonitor([&](const KeyEvent&) {
+        ++seen;
+        return EventHandling::pass;
+    });
 
     desktop->pressKey(keyB);
 

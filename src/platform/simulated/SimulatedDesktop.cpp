@@ -25,6 +25,7 @@ Platform SimulatedDesktop::platform()
             .userDefaults = userDefaults,
             .notificationCenter = notificationCenter,
             .bundle = bundle,
+            .dates = dates,
             .accessibility = accessibility,
             .hotKeys = hotKeys,
             .eventTaps = eventTaps,

@@ -11,6 +11,7 @@
 #include "platform/simulated/SimulatedAccessibility.h"
 #include "platform/simulated/SimulatedAlerts.h"
 #include "platform/simulated/SimulatedBundle.h"
+#include "platform/simulated/SimulatedDates.h"
 #include "platform/simulated/SimulatedEventMonitors.h"
 #include "platform/simulated/SimulatedEventTaps.h"
 #include "platform/simulated/SimulatedHotKeys.h"
@@ -92,6 +93,7 @@ public:
     SimulatedUserDefaults userDefaults{journal};
     SimulatedNotificationCenter notificationCenter{journal, mainQueue};
     SimulatedBundle bundle{journal};
+    SimulatedDates dates;
     SimulatedPermissions permissions{journal};
     SimulatedAccessibility accessibility{journal, mainQueue, permissions, windowServer};
     SimulatedHotKeys hotKeys{journal, mainQueue};

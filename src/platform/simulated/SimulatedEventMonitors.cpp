@@ -1,58 +1,43 @@
 #include "platform/simulated/SimulatedEventMonitors.h"
 
+#include <memory>
 #include <utility>
 
 #include "platform/simulated/Journal.h"
 
 namespace quorvel {
 
-namespace {
-
-template <class Handlers, class Handler>
-Subscription add(Journal& journal, const std::shared_ptr<Handlers>& handlers, std::uint64_t id, Handler handler)
-{
-    handlers->emplace(id, std::move(handler));
-    return Subscription([&journal, handlers = std::weak_ptr(handlers), id] {
-        if (const auto current = handlers.lock()) {
-            journal.record("EventMonitors.remove({})", id);
-            current->erase(id);
-        }
-    });
-}
-
-// A handler may remove monitors, itself among them; a removed one no longer hears of the event.
-template <class Handlers, class... Arguments>
-void tell(const Handlers& handlers, const Arguments&... arguments)
-{
-    for (const auto& [id, handler] : Handlers(handlers)) {
-        if (handlers.contains(id)) {
-            handler(arguments...);
-        }
-    }
-}
-
-} // namespace
-
 Subscription SimulatedEventMonitors::addGlobalMouseDownMonitor(std::function<void()> handler)
 {
     journal.record("EventMonitors.addGlobalMouseDownMonitor({})", nextId);
-    return add(journal, mouseMonitors, nextId++, std::move(handler));
+    return journalled(mouseMonitors.observe(std::move(handler)));
 }
 
-Subscription SimulatedEventMonitors::addLocalKeyDownMonitor(std::function<void(const KeyEvent&)> handler)
+Subscription SimulatedEventMonitors::addLocalKeyDownMonitor(std::function<EventHandling(const KeyEvent&)> handler)
 {
     journal.record("EventMonitors.addLocalKeyDownMonitor({})", nextId);
-    return add(journal, keyMonitors, nextId++, std::move(handler));
+    return journalled(
+        keyMonitors.observe([handler = std::move(handler)](const KeyEvent& event, EventHandling& handling) {
+            if (handling == EventHandling::pass) {
+                handling = handler(event);
+            }
+        }));
 }
 
-void SimulatedEventMonitors::mouseDown()
+EventHandling SimulatedEventMonitors::keyDown(const KeyEvent& event)
 {
-    tell(*mouseMonitors);
+    auto handling = EventHandling::pass;
+    keyMonitors.emit(event, handling);
+    return handling;
 }
 
-void SimulatedEventMonitors::keyDown(const KeyEvent& event)
+// The monitor, with its end written down as well.
+Subscription SimulatedEventMonitors::journalled(Subscription registration)
 {
-    tell(*keyMonitors, event);
+    return Subscription([this, id = nextId++, monitor = std::make_shared<Subscription>(std::move(registration))] {
+        journal.record("EventMonitors.remove({})", id);
+        monitor->reset();
+    });
 }
 
 } // namespace quorvel

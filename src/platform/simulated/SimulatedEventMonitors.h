@@ -3,9 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <map>
-#include <memory>
 
+#include "base/Signal.h"
 #include "platform/EventMonitors.h"
 
 namespace quorvel {
@@ -17,24 +16,21 @@ public:
     explicit SimulatedEventMonitors(Journal& journal) : journal(journal) {}
 
     Subscription addGlobalMouseDownMonitor(std::function<void()> handler) override;
-    Subscription addLocalKeyDownMonitor(std::function<void(const KeyEvent&)> handler) override;
+    Subscription addLocalKeyDownMonitor(std::function<EventHandling(const KeyEvent&)> handler) override;
 
-    std::size_t mouseMonitorCount() const { return mouseMonitors->size(); }
-    std::size_t keyMonitorCount() const { return keyMonitors->size(); }
+    std::size_t mouseMonitorCount() const { return mouseMonitors.observerCount(); }
+    std::size_t keyMonitorCount() const { return keyMonitors.observerCount(); }
 
     // Tell the monitors, now.
-    void mouseDown();
-    void keyDown(const KeyEvent& event);
+    void mouseDown() { mouseMonitors.emit(); }
+    EventHandling keyDown(const KeyEvent& event);
 
 private:
-    template <class Handler>
-    using Handlers = std::map<std::uint64_t, Handler>;
+    Subscription journalled(Subscription registration);
 
     Journal& journal;
-    std::shared_ptr<Handlers<std::function<void()>>> mouseMonitors =
-        std::make_shared<Handlers<std::function<void()>>>();
-    std::shared_ptr<Handlers<std::function<void(const KeyEvent&)>>> keyMonitors =
-        std::make_shared<Handlers<std::function<void(const KeyEvent&)>>>();
+    Signal<> mouseMonitors;
+    Signal<const KeyEvent&, EventHandling&> keyMonitors;
     std::uint64_t nextId = 1;
 };
 

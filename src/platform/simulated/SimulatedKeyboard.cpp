@@ -76,10 +76,11 @@ void SimulatedKeyboard::deliverToFocus(const KeyEvent& event)
     const auto process = route.windowServer.frontmostProcess();
     if (process == SimulatedWindowServer::ownProcess) {
         const auto panel = route.overlayWindows.keyPanel();
+        auto handling = EventHandling::pass;
         if (panel || route.preferencesUi.isWindowVisible()) {
-            route.eventMonitors.keyDown(event);
+            handling = route.eventMonitors.keyDown(event);
         }
-        if (panel) {
+        if (panel && handling == EventHandling::pass) {
             panel->onKeyDown(event);
         }
     } else if (auto* application = process ? route.windowServer.application(*process) : nullptr) {

@@ -14,6 +14,7 @@ ContractPorts SimulatedContractDesktop::ports()
             .userDefaults = &desktop.userDefaults,
             .notificationCenter = &desktop.notificationCenter,
             .bundle = &desktop.bundle,
+            .dates = &desktop.dates,
             .accessibility = &desktop.accessibility,
             .hotKeys = &desktop.hotKeys,
             .eventTaps = &desktop.eventTaps,

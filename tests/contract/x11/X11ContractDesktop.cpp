@@ -66,6 +66,7 @@ ContractPorts X11ContractDesktop::ports()
             .userDefaults = userDefaults.get(),
             .notificationCenter = &notificationCenter,
             .bundle = &bundle,
+            .dates = &dates,
             .accessibility = &windows.accessibility,
             .hotKeys = &keys.hotKeys,
             .eventTaps = &keys.eventTaps,

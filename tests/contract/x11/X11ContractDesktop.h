@@ -13,6 +13,7 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
 #include "platform/x11/desktop/X11Bundle.h"
+#include "platform/x11/desktop/X11Dates.h"
 #include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/keys/KeyAdapters.h"
 #include "platform/x11/keys/Keyboard.h"
@@ -85,6 +86,7 @@ private:
     x11::X11OverlayWindows overlays;
     LocalNotificationCenter notificationCenter;
     x11::X11Bundle bundle;
+    x11::X11Dates dates;
     ContractMenus menus;
     x11::X11StatusBar statusBar;
     std::unique_ptr<x11::PlistUserDefaults> userDefaults;

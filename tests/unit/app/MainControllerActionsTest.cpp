@@ -163,7 +163,8 @@ TEST_F(MainControllerActionsTest, CancelWithoutAModeChangesNothing)
 
 TEST_F(MainControllerActionsTest, ExitRemovesTheEventMonitorOnce)
 {
-    controller().modeState().eventMonitor = desktop.eventMonitors.addLocalKeyDownMonitor([](const KeyEvent&) {});
+    controller().modeState().eventMonitor =
+        desktop.eventMonitors.addLocalKeyDownMonitor([](const KeyEvent&) { return EventHandling::pass; });
     controller().exitCurrentMode();
     EXPECT_EQ(desktop.eventMonitors.keyMonitorCount(), 0U);
     EXPECT_FALSE(controller().modeState().eventMonitor.isActive());
@@ -178,7 +179,8 @@ TEST_F(MainControllerActionsTest, ExitGoesThroughItsStepsInOrder)
     enterMoveResize();
     const auto element = controller().modeState().moveResizeElement;
     controller().showOverlay(std::nullopt, element);
-    controller().modeState().eventMonitor = desktop.eventMonitors.addLocalKeyDownMonitor([](const KeyEvent&) {});
+    controller().modeState().eventMonitor =
+        desktop.eventMonitors.addLocalKeyDownMonitor([](const KeyEvent&) { return EventHandling::pass; });
     ASSERT_EQ(shownWindowCount(), 5U);
     forget();
     controller().exitCurrentMode();

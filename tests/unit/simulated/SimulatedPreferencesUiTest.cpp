@@ -138,8 +138,10 @@ TEST_F(SimulatedPreferencesUiTest, KeysForTheWindowAreSeenByTheLocalMonitorsOnly
     auto& editor = desktop.launch("Editor");
     const auto window = preferencesUi.createWindow(model);
     std::vector<std::string> seen;
-    const auto monitor =
-        desktop.eventMonitors.addLocalKeyDownMonitor([&](const KeyEvent& event) { seen.push_back(event.characters); });
+    const auto monitor = desktop.eventMonitors.addLocalKeyDownMonitor([&](const KeyEvent& event) {
+        seen.push_back(event.characters);
+        return EventHandling::pass;
+    });
     window->show();
 
     desktop.press(0);

@@ -110,5 +110,41 @@ TEST(SimulatedTextMetrics, EveryCharacterIsEquallyWide)
     EXPECT_EQ(desktop.textMetrics.measure("é", {.size = 10.0, .weight = FontWeight::bold}), (Size{7.0, 12.0}));
 }
 
+TEST(SimulatedEventMonitors, ASwallowedKeyReachesNoLaterMonitorAndNoWindow)
+{
+    SimulatedDesktop desktop;
+    int laterMonitor = 0;
+    int panelKeys = 0;
+    const auto panel = desktop.overlayWindows.createPanel({}, [&](const KeyEvent&) { ++panelKeys; });
+    panel->orderFrontRegardless();
+    desktop.workspace.activateSelf();
+    panel->makeKey();
+    auto swallowing = desktop.eventMonitors.addLocalKeyDownMonitor([](const KeyEvent& event) {
+        return event.keyCode == keyCodes::tab ? EventHandling::swallow : EventHandling::pass;
+    });
+    const auto later = desktop.eventMonitors.addLocalKeyDownMonitor([&](const KeyEvent&) {
+        ++laterMonitor;
+        return EventHandling::pass;
+    });
+
+    desktop.press(keyCodes::tab);
+    desktop.drain();
+    EXPECT_EQ(laterMonitor, 0);
+    EXPECT_EQ(panelKeys, 0);
+
+    desktop.press(keyCodes::escape);
+    desktop.drain();
+    EXPECT_EQ(laterMonitor, 1);
+    EXPECT_EQ(panelKeys, 1);
+}
+
+TEST(SimulatedDates, DaysAreThoseOfUniversalTime)
+{
+    const SimulatedDates dates;
+    EXPECT_EQ(dates.mediumText(dates.now()), "Jan 1, 2025");
+    EXPECT_EQ(dates.mediumText({0.0}), "Jan 1, 2001");
+    EXPECT_EQ(dates.mediumText({-1.5}), "Dec 31, 2000");
+}
+
 } // namespace
 } // namespace quorvel

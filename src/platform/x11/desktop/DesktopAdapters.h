@@ -8,6 +8,7 @@
 #include "platform/x11/desktop/ToolkitModule.h"
 #include "platform/x11/desktop/X11Alerts.h"
 #include "platform/x11/desktop/X11Bundle.h"
+#include "platform/x11/desktop/X11Dates.h"
 #include "platform/x11/desktop/X11Permissions.h"
 #include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/desktop/X11SystemColors.h"
@@ -29,6 +30,7 @@ struct DesktopAdapters {
     ToolkitModule toolkit;
 
     X11Bundle bundle;
+    X11Dates dates;
     X11SystemColors systemColors;
     X11Permissions permissions;
     X11StatusBar statusBar;

@@ -109,7 +109,7 @@ void Keyboard::reload()
         return; // the connection is gone, or another change is under way and will be announced
     }
     current = std::move(mapping);
-    mappingListeners.call();
+    mappingChanged.emit();
 }
 
 std::unique_ptr<KeyMapping> Keyboard::readMapping() const

@@ -9,9 +9,9 @@
 
 #include <xcb/xcb.h>
 
+#include "base/Signal.h"
 #include "base/Subscription.h"
 #include "base/WeakGuard.h"
-#include "platform/x11/Listeners.h"
 #include "platform/x11/keys/KeyMapping.h"
 
 namespace quorvel {
@@ -39,7 +39,7 @@ public:
     KeyState layoutState() const { return KeyMapping::layoutState(layout); }
 
     // Runs the handler after every change of the map, until the token goes.
-    Subscription observeMapping(std::function<void()> handler) { return mappingListeners.add(std::move(handler)); }
+    Subscription observeMapping(std::function<void()> handler) { return mappingChanged.observe(std::move(handler)); }
 
 private:
     Keyboard(Connection& connection, MainQueue& mainQueue);
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<KeyMapping> current;
     unsigned layout = 0;
     bool isReloadScheduled = false;
-    Listeners<> mappingListeners;
+    Signal<> mappingChanged;
     std::vector<Subscription> subscriptions;
     WeakGuard weakGuard;
 };

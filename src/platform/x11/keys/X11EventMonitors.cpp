@@ -44,19 +44,30 @@ X11EventMonitors::~X11EventMonitors() = default;
 
 Subscription X11EventMonitors::addGlobalMouseDownMonitor(std::function<void()> handler)
 {
-    auto monitor = std::make_shared<Subscription>(mouseMonitors.add(std::move(handler)));
+    auto monitor = std::make_shared<Subscription>(mouseMonitors.observe(std::move(handler)));
     selectRawPresses(XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS);
     return Subscription([this, monitor] {
         monitor->reset();
-        if (mouseMonitors.isEmpty()) {
+        if (mouseMonitors.observerCount() == 0) {
             selectRawPresses(0);
         }
     });
 }
 
-Subscription X11EventMonitors::addLocalKeyDownMonitor(std::function<void(const KeyEvent&)> handler)
+Subscription X11EventMonitors::addLocalKeyDownMonitor(std::function<EventHandling(const KeyEvent&)> handler)
 {
-    return keyMonitors.add(std::move(handler));
+    return keyMonitors.observe([handler = std::move(handler)](const KeyEvent& event, EventHandling& handling) {
+        if (handling == EventHandling::pass) {
+            handling = handler(event);
+        }
+    });
+}
+
+EventHandling X11EventMonitors::reportLocalKeyDown(const KeyEvent& event) const
+{
+    auto handling = EventHandling::pass;
+    keyMonitors.emit(event, handling);
+    return handling;
 }
 
 void X11EventMonitors::selectRawPresses(std::uint32_t mask)
@@ -79,7 +90,7 @@ void X11EventMonitors::handleGenericEvent(const xcb_ge_generic_event_t& event)
     }
     const auto& press = reinterpret_cast<const xcb_input_raw_button_press_event_t&>(event);
     if (!isWheel(press.detail) && !isPointerOverOwnWindow()) {
-        mouseMonitors.call();
+        mouseMonitors.emit();
     }
 }
 

@@ -5,8 +5,8 @@
 
 #include <xcb/xcb.h>
 
+#include "base/Signal.h"
 #include "platform/EventMonitors.h"
-#include "platform/x11/Listeners.h"
 
 namespace quorvel::x11 {
 
@@ -21,11 +21,11 @@ public:
     ~X11EventMonitors() override;
 
     Subscription addGlobalMouseDownMonitor(std::function<void()> handler) override;
-    Subscription addLocalKeyDownMonitor(std::function<void(const KeyEvent&)> handler) override;
+    Subscription addLocalKeyDownMonitor(std::function<EventHandling(const KeyEvent&)> handler) override;
 
     // Tells the monitors of a key-down in a window of this program that lives on another connection, such as a
-    // toolkit's.
-    void reportLocalKeyDown(const KeyEvent& event) { keyMonitors.call(event); }
+    // toolkit's, and answers what is to become of it.
+    EventHandling reportLocalKeyDown(const KeyEvent& event) const;
 
 private:
     void handleGenericEvent(const xcb_ge_generic_event_t& event);
@@ -37,8 +37,8 @@ private:
     Connection& connection;
     const Keyboard& keyboard;
     std::uint8_t inputOpcode = 0; // of the X Input extension; 0 where the server lacks it
-    Listeners<> mouseMonitors;
-    Listeners<const KeyEvent&> keyMonitors;
+    Signal<> mouseMonitors;
+    Signal<const KeyEvent&, EventHandling&> keyMonitors;
     std::vector<Subscription> subscriptions;
 };
 
