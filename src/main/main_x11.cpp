@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include "main/CommandLine.h"
+#include "main/SettingsTransfer.h"
 #include "main/Version.h"
 #include "main/X11Display.h"
 #include "main/X11Program.h"
@@ -29,21 +30,25 @@ int main(int argc, char** argv)
 {
     // A server or a reader of the log that goes away is noticed where it is written to.
     std::signal(SIGPIPE, SIG_IGN);
-    const auto mode = quorvel::startMode({argv + 1, argv + argc});
-    if (!mode) {
-        fmt::print(stderr, "{}\n", mode.error());
+    const auto commandLine = quorvel::commandLine({argv + 1, argv + argc});
+    if (!commandLine) {
+        fmt::print(stderr, "{}\n", commandLine.error());
         constexpr int usageStatus = 2;
         return usageStatus;
     }
-    switch (*mode) {
+    switch (commandLine->mode) {
     case quorvel::StartMode::showHelp:
         fmt::print("{}", quorvel::helpText());
         return EXIT_SUCCESS;
     case quorvel::StartMode::showVersion:
         fmt::print("quorvel {}\n", quorvel::version);
         return EXIT_SUCCESS;
+    case quorvel::StartMode::exportSettings:
+        return quorvel::exportSettings(commandLine->file) ? EXIT_SUCCESS : EXIT_FAILURE;
+    case quorvel::StartMode::importSettings:
+        return quorvel::importSettings(commandLine->file) ? EXIT_SUCCESS : EXIT_FAILURE;
     case quorvel::StartMode::run:
     case quorvel::StartMode::replace:
-        return run(*mode);
+        return run(commandLine->mode);
     }
 }

@@ -156,13 +156,19 @@ std::span<const SettingDefinition> settingsTable()
     return table;
 }
 
-const SettingDefinition& settingDefinition(std::string_view key)
+const SettingDefinition* findSettingDefinition(std::string_view key)
 {
     const auto found = std::ranges::find(table, key, &SettingDefinition::key);
-    if (found == table.end()) {
+    return found == table.end() ? nullptr : &*found;
+}
+
+const SettingDefinition& settingDefinition(std::string_view key)
+{
+    const SettingDefinition* const definition = findSettingDefinition(key);
+    if (definition == nullptr) {
         fatalError("No such setting: " + std::string(key));
     }
-    return *found;
+    return *definition;
 }
 
 } // namespace quorvel

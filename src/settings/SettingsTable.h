@@ -30,6 +30,9 @@ struct SettingDefinition {
 // Every setting of the program.
 std::span<const SettingDefinition> settingsTable();
 
+// The row of a key, or none.
+const SettingDefinition* findSettingDefinition(std::string_view key);
+
 // The row of a key of the table; any other key is a programming error.
 const SettingDefinition& settingDefinition(std::string_view key);
 

@@ -6,6 +6,19 @@
 
 namespace quorvel::x11 {
 
+namespace {
+
+void apply(PropertyList& list, std::string_view key, const std::optional<PropertyValue>& value)
+{
+    if (value) {
+        list.set(key, *value);
+    } else {
+        list.remove(key);
+    }
+}
+
+} // namespace
+
 PlistUserDefaults::PlistUserDefaults(SettingsFile file, Report report)
     : file(std::move(file)), report(std::move(report))
 {
@@ -23,22 +36,33 @@ std::optional<PropertyValue> PlistUserDefaults::object(std::string_view key) con
 
 void PlistUserDefaults::setObject(std::string_view key, PropertyValue value)
 {
-    if (values.value(key) == value && unsaved.empty()) {
-        return;
-    }
-    values.set(key, value);
-    unsaved.insert_or_assign(std::string(key), std::move(value));
+    change(key, std::move(value));
     save();
+}
+
+bool PlistUserDefaults::setObjects(const PropertyDictionary& objects)
+{
+    for (const auto& [key, value] : objects) {
+        change(key, value);
+    }
+    save();
+    return unsaved.empty();
 }
 
 void PlistUserDefaults::removeObject(std::string_view key)
 {
-    if (!values.contains(key) && unsaved.empty()) {
+    change(key, std::nullopt);
+    save();
+}
+
+void PlistUserDefaults::change(std::string_view key, std::optional<PropertyValue> value)
+{
+    const bool isSo = value ? values.value(key) == value : !values.contains(key);
+    if (isSo && unsaved.empty()) {
         return;
     }
-    values.remove(key);
-    unsaved.insert_or_assign(std::string(key), std::nullopt);
-    save();
+    apply(values, key, value);
+    unsaved.insert_or_assign(std::string(key), std::move(value));
 }
 
 bool PlistUserDefaults::reload()
@@ -75,11 +99,7 @@ void PlistUserDefaults::read()
 void PlistUserDefaults::adopt(PropertyList list)
 {
     for (const auto& [key, value] : unsaved) {
-        if (value) {
-            list.set(key, *value);
-        } else {
-            list.remove(key);
-        }
+        apply(list, key, value);
     }
     hasForeignChange = hasForeignChange || list != values;
     values = std::move(list);
@@ -87,14 +107,16 @@ void PlistUserDefaults::adopt(PropertyList list)
 
 void PlistUserDefaults::save()
 {
+    if (unsaved.empty()) {
+        return;
+    }
     if (!stamp || file.stamp() != stamp) {
         read();
     }
     if (!clearTheWay()) {
         return;
     }
-    const auto bytes = values.bytes();
-    const auto written = bytes ? file.replace(*bytes) : std::unexpected(bytes.error());
+    const auto written = write();
     if (!written) {
         reportOnce("cannot be written; changes hold for this run", written.error());
         return;
@@ -102,6 +124,18 @@ void PlistUserDefaults::save()
     stamp = *written;
     unsaved.clear();
     lastLine.clear();
+}
+
+std::expected<FileStamp, std::string> PlistUserDefaults::write() const
+{
+    const auto bytes = values.bytes();
+    if (!bytes) {
+        return std::unexpected(bytes.error());
+    }
+    if (const auto created = file.createDirectory(); !created) {
+        return std::unexpected(created.error());
+    }
+    return file.replace(*bytes);
 }
 
 // Whether the file may be replaced now.

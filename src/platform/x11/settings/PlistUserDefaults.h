@@ -1,5 +1,6 @@
 #pragma once
 
+#include <expected>
 #include <functional>
 #include <map>
 #include <optional>
@@ -28,6 +29,9 @@ public:
     void setObject(std::string_view key, PropertyValue value) override;
     void removeObject(std::string_view key) override;
 
+    // Stores all of them in one step: a crash leaves either none or all in the file. Answers whether they are on disk.
+    bool setObjects(const PropertyDictionary& objects);
+
     // To be called when the file may have changed: reads it again. Tells whether another program changed a value since
     // the last call. A file that has vanished or is damaged leaves the values as they are.
     bool reload();
@@ -38,7 +42,9 @@ private:
 
     void read();
     void adopt(PropertyList list);
+    void change(std::string_view key, std::optional<PropertyValue> value);
     void save();
+    std::expected<FileStamp, std::string> write() const;
     bool clearTheWay();
     void reportOnce(std::string_view problem, std::string_view reason);
 

@@ -21,6 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t maximumSize = std::size_t{16} << 20U;
 constexpr int maximumLinks = 40;
+constexpr auto notAFile = "not a regular file";
 
 std::unexpected<std::string> failure(int error)
 {
@@ -186,7 +187,7 @@ std::expected<std::optional<SettingsFile::Contents>, std::string> SettingsFile::
         return failure(errno);
     }
     if (!S_ISREG(status.st_mode)) {
-        return std::unexpected("not a regular file");
+        return std::unexpected(notAFile);
     }
     auto bytes = readAll(file);
     if (!bytes) {
@@ -207,10 +208,11 @@ std::expected<void, std::string> SettingsFile::createDirectory() const
 
 std::expected<FileStamp, std::string> SettingsFile::replace(std::string_view bytes) const
 {
-    if (auto created = createDirectory(); !created) {
-        return std::unexpected(created.error());
-    }
     const fs::path target = chain().back();
+    struct stat status{};
+    if (::stat(target.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        return std::unexpected(notAFile);
+    }
     auto stamp = TemporaryFile(target).become(target, bytes);
     if (stamp) {
         syncDirectory(target.parent_path());

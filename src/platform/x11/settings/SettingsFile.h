@@ -47,8 +47,8 @@ public:
     // Creates the directories that lead to the file.
     std::expected<void, std::string> createDirectory() const;
 
-    // Replaces the file, or creates it: after a crash at any moment it holds either the old bytes or all of the new
-    // ones. Only the user may read it.
+    // Replaces the file, or creates it in a directory that exists: after a crash at any moment it holds either the old
+    // bytes or all of the new ones. Only the user may read it.
     std::expected<FileStamp, std::string> replace(std::string_view bytes) const;
 
     // Gives the file a free name beside its own: "settings.plist.damaged-1", "-2" and so on.
