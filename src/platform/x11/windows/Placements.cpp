@@ -209,7 +209,7 @@ void Placements::perform(xcb_window_t window, Running& entry, const Placement::S
 Anchor Placements::knownAnchor()
 {
     const auto manager = windowManager.identity();
-    return manager != XCB_NONE && manager == clientAnchoringManager ? Anchor::client : Anchor::frame;
+    return manager != 0 && manager == clientAnchoringManager ? Anchor::client : Anchor::frame;
 }
 
 } // namespace quorvel::x11

@@ -43,12 +43,12 @@ private:
     struct Running {
         Placement placement;
         Subscription selection;
-        std::uint64_t number = 0;      // tells this placement from later ones of the same window
-        std::uint64_t request = 0;     // tells its last request from earlier ones
-        std::uint64_t activity = 0;    // tells its last request, answer or event from earlier ones
-        xcb_window_t asked = XCB_NONE; // the window manager that the last request went to
-        bool isAnswered = false;       // it has dealt with that request
-        int vainWaits = 0;             // how long there has been no sign of that
+        std::uint64_t number = 0;          // tells this placement from later ones of the same window
+        std::uint64_t request = 0;         // tells its last request from earlier ones
+        std::uint64_t activity = 0;        // tells its last request, answer or event from earlier ones
+        WindowManager::Identity asked = 0; // the window manager that the last request went to
+        bool isAnswered = false;           // it has dealt with that request
+        int vainWaits = 0;                 // how long there has been no sign of that
         bool isReconsiderationDue = false;
     };
 
@@ -73,7 +73,7 @@ private:
     std::map<xcb_window_t, Written> writes;
     std::map<xcb_window_t, Running> running;
     std::uint64_t lastNumber = 0;
-    xcb_window_t clientAnchoringManager = XCB_NONE; // the window manager known to place clients, not frames
+    WindowManager::Identity clientAnchoringManager = 0; // the window manager known to place clients, not frames
     std::vector<Subscription> subscriptions;
     WeakGuard weakGuard;
 };

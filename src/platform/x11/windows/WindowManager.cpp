@@ -1,6 +1,7 @@
 #include "platform/x11/windows/WindowManager.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "platform/x11/Connection.h"
@@ -26,38 +27,48 @@ constexpr unsigned moveResizeSourceShift = 12;
 } // namespace
 
 WindowManager::WindowManager(Connection& connection, RootProperties& rootProperties)
-    : connection(connection),
-      rootProperties(rootProperties),
-      checkWindowDestruction(
-          connection.addHandler<xcb_destroy_notify_event_t>(XCB_DESTROY_NOTIFY, [this](const auto& event) {
-              if (event.window == checkWindow) {
-                  isGone = true;
-              }
-          }))
-{}
-
-xcb_window_t WindowManager::identity()
+    : connection(connection), rootProperties(rootProperties)
 {
-    follow();
-    return isGone ? xcb_window_t{XCB_NONE} : checkWindow;
+    subscriptions.push_back(connection.addHandler<xcb_destroy_notify_event_t>(
+        XCB_DESTROY_NOTIFY, [this](const auto& event) { isGone = isGone || event.window == checkWindow; }));
+    subscriptions.push_back(
+        connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
+            const bool isOnEitherWindow = event.window == this->connection.root() || event.window == checkWindow;
+            isAnnounced =
+                isAnnounced || (isOnEitherWindow && event.atom == this->connection.atoms().netSupportingWmCheck);
+        }));
 }
 
-// A window manager that ended without clearing up leaves its properties behind, but not its window.
+WindowManager::Identity WindowManager::identity()
+{
+    follow();
+    return isGone ? 0 : latest;
+}
+
+// A window manager that ended without clearing up leaves its properties behind, but not its window. Its successor may
+// get the same window number.
 void WindowManager::follow()
 {
+    if (!std::exchange(isAnnounced, false)) {
+        return;
+    }
     const xcb_window_t announced = rootProperties.supportingWmCheck.value();
-    if (announced == checkWindow) {
+    if (announced == checkWindow && !isGone) {
         return;
     }
     checkWindow = announced;
-    checkWindowSelection = connection.selectEvents(announced, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    checkWindowSelection =
+        connection.selectEvents(announced, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
     auto pending = requestProperty(connection.xcb(), announced, connection.atoms().netSupportingWmCheck);
-    isGone = cardinal(pending.take().get()) != announced;
+    isGone = announced == XCB_NONE || cardinal(pending.take().get()) != announced;
+    if (!isGone) {
+        ++latest;
+    }
 }
 
 bool WindowManager::supports(xcb_atom_t feature)
 {
-    return identity() != XCB_NONE && contains(rootProperties.supported.values(), feature);
+    return identity() != 0 && contains(rootProperties.supported.values(), feature);
 }
 
 void WindowManager::moveAndResize(xcb_window_t window, const Geometry& geometry)

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include <xcb/xcb.h>
 
@@ -19,8 +20,9 @@ class WindowManager {
 public:
     WindowManager(Connection& connection, RootProperties& rootProperties);
 
-    // A different one, or one started anew, has a different number; 0 where none runs.
-    xcb_window_t identity();
+    // A number that no other has, nor the same one started anew; 0 where none runs.
+    using Identity = std::uint64_t;
+    Identity identity();
 
     bool supports(xcb_atom_t feature);
 
@@ -53,9 +55,11 @@ private:
     Connection& connection;
     RootProperties& rootProperties;
     xcb_window_t checkWindow = XCB_NONE;
-    bool isGone = false;
+    bool isGone = true;
+    bool isAnnounced = true; // perhaps a different one, since the last look
+    Identity latest = 0;
     Subscription checkWindowSelection;
-    Subscription checkWindowDestruction;
+    std::vector<Subscription> subscriptions;
 };
 
 } // namespace quorvel::x11

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "platform/x11/Connection.h"
-#include "platform/x11/windows/WindowManager.h"
 
 namespace quorvel::x11 {
 
@@ -29,7 +28,7 @@ WindowManagerBarrier::~WindowManagerBarrier()
 bool WindowManagerBarrier::isSupported()
 {
     const auto manager = windowManager.identity();
-    if (manager == XCB_NONE || !windowManager.supports(connection.atoms().netRequestFrameExtents)) {
+    if (manager == 0 || !windowManager.supports(connection.atoms().netRequestFrameExtents)) {
         return false;
     }
     if (manager != askedManager) {

@@ -6,11 +6,11 @@
 #include <xcb/xcb.h>
 
 #include "base/Subscription.h"
+#include "platform/x11/windows/WindowManager.h"
 
 namespace quorvel::x11 {
 
 class Connection;
-class WindowManager;
 
 // Tells when the window manager has carried out what it was asked to do. It takes messages one after the other, and one
 // of them has a visible answer even for a window that it does not manage: what frame that window would get.
@@ -35,8 +35,8 @@ private:
     Connection& connection;
     WindowManager& windowManager;
     xcb_window_t window;
-    xcb_window_t askedManager = XCB_NONE;
-    xcb_window_t answeringManager = XCB_NONE;
+    WindowManager::Identity askedManager = 0;
+    WindowManager::Identity answeringManager = 0;
     std::deque<std::function<void()>> waiting; // answers come in the order of the questions
     Subscription selection;
     Subscription answers;
