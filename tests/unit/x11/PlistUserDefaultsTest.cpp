@@ -8,12 +8,15 @@
 #include <sstream>
 #include <vector>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/x11/FileDescriptor.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvel::x11 {
@@ -139,6 +142,21 @@ TEST_F(PlistUserDefaultsTest, WritingLeavesNothingButTheFile)
     defaults.setObject("a", integer(1));
     defaults.setObject("a", integer(2));
     EXPECT_THAT(namesInDirectory(), ElementsAre("settings.plist"));
+}
+
+TEST_F(PlistUserDefaultsTest, FilesThatAKilledWriterLeftBehindAreRemovedAndNoOthers)
+{
+    open().setObject("a", integer(1));
+    directory.write("config/quorvel/.settings.plist.unfinished-aB3dE6", "half");
+    directory.write("config/quorvel/.settings.plist.backup", "a person's");
+    directory.write("config/quorvel/.other.plist.unfinished-aB3dE6", "of another file");
+    const auto atWork =
+        directory.write("config/quorvel/.settings.plist.unfinished-zZ9yX8", "of a writer that is at work");
+    const FileDescriptor writer(::open(atWork.c_str(), O_RDONLY));
+    ASSERT_EQ(::flock(writer.get(), LOCK_EX), 0);
+    open();
+    EXPECT_THAT(namesInDirectory(), ElementsAre(".other.plist.unfinished-aB3dE6", ".settings.plist.backup",
+                                                ".settings.plist.unfinished-zZ9yX8", "settings.plist"));
 }
 
 TEST_F(PlistUserDefaultsTest, SettingWhatIsStoredDoesNotTouchTheFile)

@@ -24,6 +24,7 @@ PlistUserDefaults::PlistUserDefaults(SettingsFile file, Report report)
 {
     // The directory has to be there for changes in it to be noticed; where it cannot be made, the first write says so.
     static_cast<void>(this->file.createDirectory());
+    this->file.removeLeftovers();
     read();
     clearTheWay();
     hasForeignChange = false;

@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <glib.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 #include "platform/x11/FileDescriptor.h"
@@ -73,14 +74,28 @@ std::expected<void, std::string> writeAll(const FileDescriptor& file, std::strin
     return {};
 }
 
-// A file that is not in use yet; removed unless it was given its name.
+constexpr std::string_view anySuffix = "XXXXXX";
+
+std::string temporaryPrefix(const fs::path& target)
+{
+    return "." + target.filename().string() + ".unfinished-";
+}
+
+// A lock that goes with the process. File systems without locks grant none.
+bool takeLock(const FileDescriptor& file)
+{
+    return ::flock(file.get(), LOCK_EX | LOCK_NB) == 0;
+}
+
+// A file that is not in use yet; removed unless it was given its name. Its lock tells that somebody is at work on it.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const fs::path& target)
-        : name(target.parent_path() / ("." + target.filename().string() + ".XXXXXX"))
+        : name(target.parent_path() / (temporaryPrefix(target) + std::string(anySuffix)))
     {
         file = FileDescriptor(::mkostemp(name.data(), O_CLOEXEC)); // mode 0600
         error = file.isOpen() ? 0 : errno;
+        static_cast<void>(takeLock(file));
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -218,6 +233,23 @@ std::expected<FileStamp, std::string> SettingsFile::replace(std::string_view byt
         syncDirectory(target.parent_path());
     }
     return stamp;
+}
+
+void SettingsFile::removeLeftovers() const
+{
+    const fs::path target = chain().back();
+    const std::string prefix = temporaryPrefix(target);
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(target.parent_path(), error)) {
+        const std::string name = entry.path().filename();
+        if (!name.starts_with(prefix) || name.size() != prefix.size() + anySuffix.size()) {
+            continue;
+        }
+        const FileDescriptor file(::open(entry.path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+        if (file.isOpen() && takeLock(file)) {
+            ::unlink(entry.path().c_str());
+        }
+    }
 }
 
 std::expected<fs::path, std::string> SettingsFile::moveAside() const

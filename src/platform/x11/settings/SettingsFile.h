@@ -51,6 +51,9 @@ public:
     // bytes or all of the new ones. Only the user may read it.
     std::expected<FileStamp, std::string> replace(std::string_view bytes) const;
 
+    // Removes what replace() left behind in processes that were killed in the midst of it.
+    void removeLeftovers() const;
+
     // Gives the file a free name beside its own: "settings.plist.damaged-1", "-2" and so on.
     std::expected<std::filesystem::path, std::string> moveAside() const;
 
