@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
 #include <unordered_map>
 #include <utility>
 
+#include "app/LabelAlphabet.h"
 #include "app/OverlayNavigation.h"
 #include "app/StateManager.h"
 #include "app/WindowPlacement.h"
@@ -24,17 +24,13 @@ namespace quorvel {
 
 namespace {
 
-// Independent of the keyboard profile: the letters are those that the keys type.
-constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-static_assert(alphabet.size() == LayoutsManager::largestFrameCount);
-
-constexpr KeyCode keyCodeCount = 256;
+static_assert(labelAlphabet.size() == LayoutsManager::largestFrameCount);
 
 std::map<std::string, WindowModel> labelFrames(const std::vector<WindowModel>& frames)
 {
     std::map<std::string, WindowModel> labelToFrame;
-    for (std::size_t index = 0; index < std::min(frames.size(), alphabet.size()); ++index) {
-        labelToFrame.emplace(alphabet.substr(index, 1), frames[index]);
+    for (std::size_t index = 0; index < std::min(frames.size(), labelAlphabet.size()); ++index) {
+        labelToFrame.emplace(labelAlphabet.substr(index, 1), frames[index]);
     }
     return labelToFrame;
 }
@@ -137,14 +133,7 @@ void LayoutOverlayMode::captureKeys(std::shared_ptr<const Showing> showing)
     }
     blocker->setOnBlockKey(
         weakly.guard([this, showing = std::move(showing)](const CapturedKey& key) { handleKey(*showing, key); }));
-    auto keyCodes = blocker->blockedKeyCodes();
-    for (KeyCode keyCode = 0; keyCode < keyCodeCount; ++keyCode) {
-        keyCodes.insert(keyCode);
-    }
-    blocker->setBlockedKeyCodes(std::move(keyCodes));
-    if (!blocker->hasEventTap()) {
-        blocker->showKeyCapturePanel();
-    }
+    blocker->blockAllKeys();
 }
 
 void LayoutOverlayMode::handleKey(const Showing& showing, const CapturedKey& key) const

@@ -41,15 +41,8 @@ MainController::MainController(const Platform& platform, GlobalEventBlocker* blo
       shortcutManager(platform.hotKeys, platform.mainQueue, platform.log),
       layouts(platform.bundle, Settings(platform.userDefaults), platform.log),
       eventBlocker(blocker),
-      layoutOverlayMode({.platform = platform,
-                         .overlayWindowManager = overlayWindowManager,
-                         .layoutsManager = layouts,
-                         .stateManager = state,
-                         .eventBlocker = blocker,
-                         .currentScreen = currentScreen,
-                         .handleAction = [this](Action action, const ActionArguments& arguments) {
-                             handleAction(action, arguments);
-                         }})
+      layoutOverlayMode(modeEnvironment()),
+      focusSwitcherMode(modeEnvironment(), modes, [this] { dismissFocusSwitcher(); })
 {
     layouts.loadLayouts();
     layouts.seedDefaultLayoutsIfNeeded();
@@ -59,6 +52,19 @@ MainController::MainController(const Platform& platform, GlobalEventBlocker* blo
 }
 
 MainController::~MainController() = default;
+
+ModeEnvironment MainController::modeEnvironment()
+{
+    return {
+        .platform = platform,
+        .overlayWindowManager = overlayWindowManager,
+        .layoutsManager = layouts,
+        .stateManager = state,
+        .eventBlocker = eventBlocker,
+        .currentScreen = currentScreen,
+        .handleAction = [this](Action action, const ActionArguments& arguments) { handleAction(action, arguments); },
+    };
+}
 
 void MainController::registerShortcuts()
 {
@@ -134,9 +140,7 @@ void MainController::handleAction(Action action, const ActionArguments& argument
         }
         break;
     case Action::focusSwitcher:
-        if (modes.moveResizeElement || isLabelling()) {
-            leaveCurrentMode();
-        }
+        switchFocus();
         break;
     }
 }
@@ -151,6 +155,17 @@ void MainController::toggleOverlay()
     } else {
         showOverlay(std::nullopt, nullptr);
     }
+}
+
+void MainController::switchFocus()
+{
+    if (modes.moveResizeElement) {
+        leaveCurrentMode();
+    } else if (isLabelling()) {
+        leaveCurrentMode();
+        return;
+    }
+    focusSwitcherMode.start();
 }
 
 void MainController::showStepped(const ActionArguments& arguments)

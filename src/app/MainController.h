@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/ActionArguments.h"
+#include "app/FocusSwitcherMode.h"
 #include "app/LayoutOverlayMode.h"
 #include "app/ModeState.h"
 #include "app/StateManager.h"
@@ -76,7 +77,9 @@ private:
     void observePreferencesClosing();
     void resumeShortcuts();
 
+    ModeEnvironment modeEnvironment();
     void toggleOverlay();
+    void switchFocus();
     void showStepped(const ActionArguments& arguments);
     void jumpToLayout(const ActionArguments& arguments);
     void moveClientWindow(const ActionArguments& arguments);
@@ -97,6 +100,7 @@ private:
     ModeState modes;
     std::shared_ptr<CurrentScreen> currentScreen = std::make_shared<CurrentScreen>();
     LayoutOverlayMode layoutOverlayMode;
+    FocusSwitcherMode focusSwitcherMode;
     std::vector<Subscription> observers; // of notifications; they stay for good
     WeakGuard weakly;
 };

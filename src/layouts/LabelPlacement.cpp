@@ -27,9 +27,7 @@ constexpr std::array<Candidates, 9> candidateTable{{
     {bottomRight, bottom, trailing, bottomLeft, center, topRight, leading, top, topLeft},
 }};
 
-constexpr double margin = 16.0;
-
-double labelX(LabelPosition anchor, const ScreenRect& bounds, double width)
+double anchoredX(LabelPosition anchor, const ScreenRect& bounds, double width, double margin)
 {
     switch (anchor) {
     case topLeft:
@@ -48,7 +46,7 @@ double labelX(LabelPosition anchor, const ScreenRect& bounds, double width)
     return bounds.minX();
 }
 
-double labelY(LabelPosition anchor, const ScreenRect& bounds, double height)
+double anchoredY(LabelPosition anchor, const ScreenRect& bounds, double height, double margin)
 {
     switch (anchor) {
     case topLeft:
@@ -79,9 +77,16 @@ Size windowLabelSize(double fontSize, std::string_view label, const std::optiona
     return {std::max(150.0, width), fontSize * 3.5 + 60.0};
 }
 
+ScreenRect anchoredRect(LabelPosition anchor, const ScreenRect& bounds, const Size& size, double margin)
+{
+    return {anchoredX(anchor, bounds, size.width, margin), anchoredY(anchor, bounds, size.height, margin), size.width,
+            size.height};
+}
+
 ScreenRect labelRect(LabelPosition anchor, const ScreenRect& bounds, const Size& size)
 {
-    return {labelX(anchor, bounds, size.width), labelY(anchor, bounds, size.height), size.width, size.height};
+    constexpr double margin = 16.0;
+    return anchoredRect(anchor, bounds, size, margin);
 }
 
 std::span<const LabelPosition> anchorCandidates(LabelPosition preferred)

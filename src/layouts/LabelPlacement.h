@@ -17,11 +17,14 @@ namespace quorvel {
 // The size of a label with a letter of `fontSize` points, wide enough for its longest text.
 Size windowLabelSize(double fontSize, std::string_view label, const std::optional<VisibleWindowInfo>& info);
 
-// A label of `size` at an anchor of a window, 16 points in from the edges that the anchor names.
+// A rectangle of `size` at an anchor of `bounds`, `margin` points in from the edges that the anchor names.
 //
 //   topLeft      top      topRight
 //   leading     center    trailing
 //   bottomLeft  bottom  bottomRight
+ScreenRect anchoredRect(LabelPosition anchor, const ScreenRect& bounds, const Size& size, double margin);
+
+// The same for the label of a window, 16 points in.
 ScreenRect labelRect(LabelPosition anchor, const ScreenRect& bounds, const Size& size);
 
 // All nine anchors in the order in which they are tried: the preferred one, its neighbours, the rest.

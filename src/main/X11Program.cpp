@@ -65,6 +65,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
           .statusBar = statusBar,
           .permissions = permissions,
           .alerts = alerts,
+          .focusesExactWindow = true,
       },
       endingSignals(subscribeToEndingSignals()),
       app(platform),

@@ -50,6 +50,7 @@ struct Platform {
     Alerts& alerts;
     PreferencesUi* preferencesUi = nullptr; // null where this build has no preferences window
     Updater* updater = nullptr;             // null where this build does not update itself
+    bool focusesExactWindow = false;        // what the setting "fsFocusExactWindow" means while it is absent
 };
 
 } // namespace quorvel

@@ -83,6 +83,12 @@ LabelPosition switcherLabelPosition(const Settings& settings)
     return labelPositionFromRawValue(position).value_or(LabelPosition::topLeft);
 }
 
+LabelPosition switcherPopupPosition(const Settings& settings)
+{
+    const auto position = settings.boundString(settingsKeys::fsPopupPosition);
+    return labelPositionFromRawValue(position).value_or(LabelPosition::center);
+}
+
 FocusSwitcherDisplayMode focusSwitcherDisplayMode(const Settings& settings)
 {
     const auto mode = settings.boundString(settingsKeys::fsDefaultDisplayMode);

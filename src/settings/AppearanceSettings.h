@@ -52,6 +52,9 @@ double switcherTextSize(const Settings& settings);
 // Where the focus switcher prefers to put labels: the top left for a text that names no position.
 LabelPosition switcherLabelPosition(const Settings& settings);
 
+// Where the focus switcher puts its lists: the centre for a text that names no position.
+LabelPosition switcherPopupPosition(const Settings& settings);
+
 FocusSwitcherDisplayMode focusSwitcherDisplayMode(const Settings& settings);
 
 // The frame around the window that is being moved, and the one around what it snaps to. The widths and the radius

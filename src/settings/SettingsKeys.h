@@ -24,6 +24,7 @@ inline constexpr std::string_view fsToggleMinimizedModifiers = "fsToggleMinimize
 inline constexpr std::string_view fsToggleAllWindowsKeyCode = "fsToggleAllWindowsKeyCode";
 inline constexpr std::string_view fsToggleAllWindowsModifiers = "fsToggleAllWindowsModifiers";
 inline constexpr std::string_view fsPopupPosition = "fsPopupPosition";
+inline constexpr std::string_view fsFocusExactWindow = "fsFocusExactWindow";
 inline constexpr std::string_view moveResizeKeyCode = "moveResizeKeyCode";
 inline constexpr std::string_view moveResizeModifiers = "moveResizeModifiers";
 inline constexpr std::string_view mrMoveLeftKeyCode = "mrMoveLeftKeyCode";

@@ -125,6 +125,7 @@ constexpr std::array table{
     text(wsLabelPosition, "topLeft"),
     boolean(showWindowInfo, true),
     text(fsDefaultDisplayMode, "frames"),
+    SettingDefinition{fsFocusExactWindow, SettingType::boolean, false, none, none}, // the platform has the fallback
 
     // Move/resize mode.
     text(mrSelectionColorHex, "#0A84FFCC"),

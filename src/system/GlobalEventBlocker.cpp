@@ -77,6 +77,19 @@ void GlobalEventBlocker::setBlockedKeyCodes(std::set<KeyCode> newKeyCodes)
     announceBlockedKeys();
 }
 
+void GlobalEventBlocker::blockAllKeys()
+{
+    constexpr KeyCode keyCodeCount = 256;
+    auto all = keyCodes;
+    for (KeyCode keyCode = 0; keyCode < keyCodeCount; ++keyCode) {
+        all.insert(keyCode);
+    }
+    setBlockedKeyCodes(std::move(all));
+    if (!hasEventTap()) {
+        showKeyCapturePanel();
+    }
+}
+
 void GlobalEventBlocker::setOnBlockKey(CapturedKeyHandler handler)
 {
     onBlockKey = std::move(handler);
@@ -109,6 +122,13 @@ void GlobalEventBlocker::showKeyCapturePanel()
     keyCapturePanel->orderFrontRegardless();
     platform.workspace.activateSelf();
     keyCapturePanel->makeKey();
+}
+
+void GlobalEventBlocker::setPreviousApp(ProcessId process)
+{
+    if (keyCapturePanel && keyCapturePanel->isVisible()) {
+        previousApp = process;
+    }
 }
 
 void GlobalEventBlocker::clearBlockedKeys()

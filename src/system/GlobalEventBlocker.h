@@ -40,12 +40,18 @@ public:
     const std::set<KeyCode>& blockedKeyCodes() const;
     void setBlockedKeyCodes(std::set<KeyCode> keyCodes);
 
+    // Adds every key there is, and shows the panel where there is no tap.
+    void blockAllKeys();
+
     // The tap's keys reach the handler in a later turn of the main queue, the panel's at once. Setting a handler, not
     // taking it away with an empty one, shows the panel if there are keys to block and no tap.
     void setOnBlockKey(CapturedKeyHandler handler);
 
     // Shows the panel, unless it has the focus already, and remembers who had it.
     void showKeyCapturePanel();
+
+    // While the panel has the focus: gives it to this process later, instead of the one that had it.
+    void setPreviousApp(ProcessId process);
 
     // Empties the set, hides the panel and gives the focus back.
     void clearBlockedKeys();

@@ -109,13 +109,16 @@ TEST_F(MainControllerActionsTest, TheFocusSwitcherHotKeyOnlyClosesTheOverlay)
     EXPECT_EQ(desktop.journal.count("WindowList"), 0U);
 }
 
-TEST_F(MainControllerActionsTest, TheFocusSwitcherLeavesMoveResize)
+TEST_F(MainControllerActionsTest, TheFocusSwitcherTakesThePlaceOfMoveResize)
 {
     enterMoveResize();
     perform(Action::focusSwitcher);
     EXPECT_EQ(controller().modeState().moveResizeElement, nullptr);
-    EXPECT_EQ(shownWindowCount(), 0U);
-    EXPECT_TRUE(blocker().blockedKeyCodes().empty());
+    EXPECT_FALSE(desktop.overlayWindows.all()[0]->isVisible);
+    EXPECT_FALSE(desktop.overlayWindows.all()[1]->isVisible);
+    EXPECT_EQ(state(), States::overlayOn);
+    EXPECT_EQ(blocker().blockedKeyCodes(), allKeyCodes());
+    EXPECT_TRUE(controller().modeState().focusSwitcherMouseMonitor.isActive());
 }
 
 TEST_F(MainControllerActionsTest, MoveResizeLeavesTheOverlay)

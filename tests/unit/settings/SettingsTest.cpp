@@ -169,7 +169,7 @@ TEST_F(SettingsTest, AKeyOutsideTheTableHasNoDefault)
     EXPECT_EQ(fatalErrorOf([this] { static_cast<void>(settings.boundInteger("tpyo")); }), "No such setting: tpyo");
 }
 
-TEST(SettingsTable, Holds80SettingsByType)
+TEST(SettingsTable, Holds81SettingsByType)
 {
     std::map<SettingType, int> counts;
     std::map<std::string_view, int> names;
@@ -177,12 +177,12 @@ TEST(SettingsTable, Holds80SettingsByType)
         ++counts[setting.type];
         ++names[setting.key];
     }
-    EXPECT_EQ(names.size(), 80U);
-    EXPECT_EQ(settingsTable().size(), 80U);
+    EXPECT_EQ(names.size(), 81U);
+    EXPECT_EQ(settingsTable().size(), 81U);
     EXPECT_EQ(counts[SettingType::integer], 34);
     EXPECT_EQ(counts[SettingType::string], 17);
     EXPECT_EQ(counts[SettingType::real], 15);
-    EXPECT_EQ(counts[SettingType::boolean], 9);
+    EXPECT_EQ(counts[SettingType::boolean], 10);
     EXPECT_EQ(counts[SettingType::data], 3);
     EXPECT_EQ(counts[SettingType::stringArray], 1);
     EXPECT_EQ(counts[SettingType::stringDictionary], 1);

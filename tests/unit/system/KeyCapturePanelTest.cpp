@@ -160,6 +160,34 @@ TEST_F(KeyCapturePanelTest, WithNobodyInFrontNobodyIsRemembered)
     EXPECT_EQ(desktop.journal.count("Workspace.activate("), 0U);
 }
 
+TEST_F(KeyCapturePanelTest, TheFocusCanGoToAnotherApplicationThanTheEarlierOne)
+{
+    auto& mail = desktop.launch("Mail");
+    startRefused({31});
+    blocker->setPreviousApp(editor.process());
+    blocker->clearBlockedKeys();
+    EXPECT_EQ(frontmost(), editor.process());
+
+    blocker->setPreviousApp(editor.process()); // without effect: no panel holds the focus
+    desktop.activate(mail);
+    blocker->setBlockedKeyCodes({31});
+    desktop.leaveNobodyInFront();
+    blocker->showKeyCapturePanel();
+    blocker->clearBlockedKeys();
+    EXPECT_NE(frontmost(), editor.process());
+}
+
+TEST_F(KeyCapturePanelTest, BlockingAllKeysShowsThePanelWithoutATapOnly)
+{
+    blocker->start();
+    blocker->blockAllKeys();
+    EXPECT_EQ(blocker->blockedKeyCodes().size(), 256U);
+    EXPECT_FALSE(isPanelVisible());
+    blocker->stop();
+    blocker->blockAllKeys();
+    EXPECT_TRUE(isPanelVisible());
+}
+
 TEST_F(KeyCapturePanelTest, ThePanelIsCreatedOnceAndNeverClosed)
 {
     startRefused({31});
