@@ -7,9 +7,9 @@
 
 #include <fmt/format.h>
 
-#include "platform/NotificationCenter.h"
 #include "platform/x11/UnixSignals.h"
 #include "platform/x11/desktop/DesktopFont.h"
+#include "settings/ForeignChanges.h"
 
 namespace quorvel {
 
@@ -98,9 +98,7 @@ std::vector<Subscription> X11Program::subscribeToEndingSignals()
 
 void X11Program::settingsMayHaveChanged()
 {
-    if (userDefaults.reload()) {
-        notificationCenter.post(notificationNames::shortcutDidChange, noNotificationObject);
-    }
+    handleForeignChanges(userDefaults.reload(), userDefaults, notificationCenter, log);
 }
 
 } // namespace quorvel

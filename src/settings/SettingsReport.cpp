@@ -12,11 +12,17 @@ namespace quorvel {
 void reportMistypedSettings(const UserDefaults& userDefaults, Log& log)
 {
     for (const auto& setting : settingsTable()) {
-        const auto stored = userDefaults.object(setting.key);
-        const auto mismatch = stored ? typeMismatch(*stored, setting.type) : std::nullopt;
-        if (mismatch) {
-            log.line(fmt::format("Setting \"{}\" holds {}", setting.key, *mismatch));
-        }
+        reportMistypedSetting(setting.key, userDefaults, log);
+    }
+}
+
+void reportMistypedSetting(std::string_view key, const UserDefaults& userDefaults, Log& log)
+{
+    const auto* const setting = findSettingDefinition(key);
+    const auto stored = setting != nullptr ? userDefaults.object(key) : std::nullopt;
+    const auto mismatch = stored ? typeMismatch(*stored, setting->type) : std::nullopt;
+    if (mismatch) {
+        log.line(fmt::format("Setting \"{}\" holds {}", key, *mismatch));
     }
 }
 

@@ -25,6 +25,11 @@ std::int64_t integerOrFallback(const Settings& settings, std::string_view key)
 
 } // namespace
 
+bool isShortcutKey(std::string_view key)
+{
+    return findSettingDefinition(key) != nullptr && (key.ends_with("KeyCode") || key.ends_with("Modifiers"));
+}
+
 Shortcut mainShortcut(const Settings& settings, const ShortcutKeys& keys)
 {
     const auto modifiers = settings.integerNumber(keys.modifiers);

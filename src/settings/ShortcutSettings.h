@@ -38,6 +38,9 @@ struct Shortcut {
     bool operator==(const Shortcut&) const = default;
 };
 
+// Whether a setting is a half of a shortcut.
+bool isShortcutKey(std::string_view key);
+
 // One of the three shortcuts that start a mode. An absent half is the table's fallback, and so are modifiers that are
 // no number; other modifiers wrap to 32 bits. A key code of 0 means that the shortcut was cleared.
 Shortcut mainShortcut(const Settings& settings, const ShortcutKeys& keys);

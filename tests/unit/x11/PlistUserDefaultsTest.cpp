@@ -259,16 +259,27 @@ TEST_F(PlistUserDefaultsTest, AChangeByAnotherProgramIsTakenOver)
     auto defaults = open();
     defaults.setObject("a", integer(1));
     write(head + "<key>a</key><integer>2</integer>" + tail);
-    EXPECT_TRUE(defaults.reload());
+    EXPECT_THAT(defaults.reload(), ElementsAre("a"));
     EXPECT_EQ(defaults.object("a"), integer(2));
-    EXPECT_FALSE(defaults.reload());
+    EXPECT_THAT(defaults.reload(), IsEmpty());
+}
+
+TEST_F(PlistUserDefaultsTest, OnlyWhatAnotherProgramAddedChangedOrRemovedIsNamed)
+{
+    auto defaults = open();
+    defaults.setObjects(
+        {{"added", integer(1)}, {"changed", integer(1)}, {"removed", integer(1)}, {"same", integer(1)}});
+    defaults.removeObject("added");
+    write(head + "<key>same</key><integer>1</integer><key>changed</key><integer>2</integer>" +
+          "<key>added</key><integer>1</integer><key>odd</key><date>2026-01-01T00:00:00Z</date>" + tail);
+    EXPECT_THAT(defaults.reload(), ElementsAre("added", "changed", "removed"));
 }
 
 TEST_F(PlistUserDefaultsTest, ItsOwnWritingIsNoChangeByAnotherProgram)
 {
     auto defaults = open();
     defaults.setObject("a", integer(1));
-    EXPECT_FALSE(defaults.reload());
+    EXPECT_THAT(defaults.reload(), IsEmpty());
 }
 
 TEST_F(PlistUserDefaultsTest, AFileWrittenWithTheSameValuesIsNoChange)
@@ -276,7 +287,7 @@ TEST_F(PlistUserDefaultsTest, AFileWrittenWithTheSameValuesIsNoChange)
     auto defaults = open();
     defaults.setObject("a", integer(1));
     write(head + "<!-- tidied -->\n<key>a</key> <integer>1</integer>" + tail);
-    EXPECT_FALSE(defaults.reload());
+    EXPECT_THAT(defaults.reload(), IsEmpty());
 }
 
 TEST_F(PlistUserDefaultsTest, TwoWritersDoNotUndoEachOther)
@@ -286,7 +297,7 @@ TEST_F(PlistUserDefaultsTest, TwoWritersDoNotUndoEachOther)
     first.setObject("a", integer(1));
     second.setObject("b", integer(2));
     first.setObject("c", integer(3));
-    EXPECT_TRUE(first.reload());
+    EXPECT_THAT(first.reload(), ElementsAre("b"));
     EXPECT_EQ(first.object("b"), integer(2));
     auto third = open();
     EXPECT_EQ(third.object("a"), integer(1));
@@ -299,7 +310,7 @@ TEST_F(PlistUserDefaultsTest, AFileThatVanishesLeavesTheValuesAndIsWrittenAgain)
     auto defaults = open();
     defaults.setObject("a", integer(1));
     fs::remove_all(path.parent_path());
-    EXPECT_FALSE(defaults.reload());
+    EXPECT_THAT(defaults.reload(), IsEmpty());
     EXPECT_EQ(defaults.object("a"), integer(1));
     defaults.setObject("b", integer(2));
     EXPECT_EQ(open().object("a"), integer(1));
@@ -310,7 +321,7 @@ TEST_F(PlistUserDefaultsTest, AFileDamagedMeanwhileStaysUntilTheNextWriteAndThen
     auto defaults = open();
     defaults.setObject("a", integer(1));
     write("half an edit");
-    EXPECT_FALSE(defaults.reload());
+    EXPECT_THAT(defaults.reload(), IsEmpty());
     EXPECT_EQ(defaults.object("a"), integer(1));
     EXPECT_EQ(contents(path), "half an edit");
     EXPECT_THAT(lines, ElementsAre(HasSubstr("settings in use stay")));

@@ -90,6 +90,19 @@ protected:
         EXPECT_TRUE(display.grabs.isFree(overlayKey));
     }
 
+    // Another program puts a file with these entries in place of the settings.
+    void replaceSettings(const std::string& entries)
+    {
+        fs::rename(configuration.write("edited", "<plist><dict>" + entries + "</dict></plist>"), settings());
+    }
+
+    // How many times the hot keys have been registered.
+    static std::ptrdiff_t registrations(ProgramUnderTest& program)
+    {
+        return std::ranges::count_if(program.outputLines(),
+                                     [](const std::string& line) { return line.starts_with("Registering shortcuts"); });
+    }
+
     fs::path settings() const { return configuration.path() / "quorvel" / "settings.plist"; }
 
     static std::string contents(const fs::path& file)
@@ -189,9 +202,7 @@ TEST_F(ProgramTest, ValuesOfAWrongTypeLeaveTheDefaults)
 TEST_F(ProgramTest, AShortcutChangedInTheFileHoldsAtOnce)
 {
     const auto program = startAndWait();
-    const auto edited = configuration.write(
-        "edited", "<plist><dict><key>activateOverlayKeyCode</key><integer>40</integer></dict></plist>");
-    fs::rename(edited, settings());
+    replaceSettings("<key>activateOverlayKeyCode</key><integer>40</integer>");
     program->waitForLine("Registering shortcuts: keyCode=40, modifiers=768");
     program->waitForLineStartingWith(lastRegistration);
     display.keyboard.tap(overlayKey.modifiers, XKB_KEY_k);
@@ -204,10 +215,17 @@ TEST_F(ProgramTest, ItsOwnSettingsAreNoChangeThatItHearsOf)
     const auto program = startAndWait(); // which has just written the first settings
     pressOverlayKey();
     program->waitForLine("Activate overlay shortcut fired");
-    const auto& lines = program->outputLines();
-    EXPECT_EQ(
-        std::ranges::count_if(lines, [](const std::string& line) { return line.starts_with("Registering shortcuts"); }),
-        1);
+    EXPECT_EQ(registrations(*program), 1);
+}
+
+TEST_F(ProgramTest, AnotherSettingChangedInTheFileIsCheckedAndLeavesTheHotKeysAlone)
+{
+    const auto program = startAndWait();
+    replaceSettings("<key>textSize</key><string>large</string>");
+    program->waitForLine("Setting \"textSize\" holds a string where a number is expected");
+    replaceSettings("<key>textSize</key><string>large</string><key>activateOverlayKeyCode</key><integer>40</integer>");
+    program->waitForLine("Registering shortcuts: keyCode=40, modifiers=768");
+    EXPECT_EQ(registrations(*program), 2);
 }
 
 class EndingSignalTest : public ProgramTest, public testing::WithParamInterface<int> {};

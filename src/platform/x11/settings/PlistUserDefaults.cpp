@@ -27,7 +27,7 @@ PlistUserDefaults::PlistUserDefaults(SettingsFile file, Report report)
     this->file.removeLeftovers();
     read();
     clearTheWay();
-    hasForeignChange = false;
+    foreignChanges.clear();
 }
 
 std::optional<PropertyValue> PlistUserDefaults::object(std::string_view key) const
@@ -66,13 +66,13 @@ void PlistUserDefaults::change(std::string_view key, std::optional<PropertyValue
     unsaved.insert_or_assign(std::string(key), std::move(value));
 }
 
-bool PlistUserDefaults::reload()
+std::set<std::string> PlistUserDefaults::reload()
 {
     read();
     if (state == FileState::damaged) {
         reportOnce("is damaged; the settings in use stay", damage);
     }
-    return std::exchange(hasForeignChange, false);
+    return std::exchange(foreignChanges, {});
 }
 
 void PlistUserDefaults::read()
@@ -102,8 +102,22 @@ void PlistUserDefaults::adopt(PropertyList list)
     for (const auto& [key, value] : unsaved) {
         apply(list, key, value);
     }
-    hasForeignChange = hasForeignChange || list != values;
+    noteForeignChanges(list);
     values = std::move(list);
+}
+
+void PlistUserDefaults::noteForeignChanges(const PropertyList& list)
+{
+    for (const auto& [key, value] : list.entries()) {
+        if (value != values.value(key)) {
+            foreignChanges.insert(key);
+        }
+    }
+    for (const auto& [key, value] : values.entries()) {
+        if (value && !list.contains(key)) {
+            foreignChanges.insert(key);
+        }
+    }
 }
 
 void PlistUserDefaults::save()

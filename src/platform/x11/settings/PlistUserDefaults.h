@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -32,9 +33,9 @@ public:
     // Stores all of them in one step: a crash leaves either none or all in the file. Answers whether they are on disk.
     bool setObjects(const PropertyDictionary& objects);
 
-    // To be called when the file may have changed: reads it again. Tells whether another program changed a value since
-    // the last call. A file that has vanished or is damaged leaves the values as they are.
-    bool reload();
+    // To be called when the file may have changed: reads it again. Answers the keys whose values another program
+    // changed since the last call. A file that has vanished or is damaged leaves the values as they are.
+    std::set<std::string> reload();
 
 private:
     // The file on disk, as far as it decides whether it may be replaced.
@@ -42,6 +43,7 @@ private:
 
     void read();
     void adopt(PropertyList list);
+    void noteForeignChanges(const PropertyList& list);
     void change(std::string_view key, std::optional<PropertyValue> value);
     void save();
     std::expected<FileStamp, std::string> write() const;
@@ -56,7 +58,7 @@ private:
     FileState state = FileState::usable;
     std::string damage; // what is wrong with a damaged file
     std::string lastLine;
-    bool hasForeignChange = false;
+    std::set<std::string> foreignChanges; // keys
 };
 
 } // namespace quorvel::x11
