@@ -17,6 +17,9 @@ inline constexpr std::array allLabelPositions{
 
 std::string_view rawValue(LabelPosition position);
 
+// The name that preferences show.
+std::string_view title(LabelPosition position);
+
 // Exact and case-sensitive; nothing for any other text.
 std::optional<LabelPosition> labelPositionFromRawValue(std::string_view text);
 

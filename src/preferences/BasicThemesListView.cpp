@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "platform/Dates.h"
+#include "preferences/PaneButtons.h"
 #include "preferences/ThemesListTexts.h"
 
 namespace quorvel {
@@ -22,31 +23,21 @@ constexpr std::string_view applySuffix = ".apply";
 constexpr std::string_view renameSuffix = ".rename";
 constexpr std::string_view deleteSuffix = ".delete";
 
-PaneButton button(std::string_view id, std::string_view title, ButtonRole role = ButtonRole::normal)
-{
-    return {.id = std::string(id),
-            .title = std::string(title),
-            .symbol = {},
-            .accessibleName = std::string(title),
-            .role = role,
-            .isEnabled = true};
-}
-
 PaneButton rowButton(const std::string& rowID, std::string_view suffix, std::string_view title,
                      const std::string& themeName, ButtonRole role = ButtonRole::normal)
 {
-    auto result = button(rowID + std::string(suffix), title, role);
+    auto result = titledButton(rowID + std::string(suffix), title, role);
     result.accessibleName = fmt::format("{} “{}”", title, themeName);
     return result;
 }
 
 PaneAlert renameAlert(const std::string& newName)
 {
-    return {
-        .title = "Rename Theme",
-        .message = "Enter a new name for this theme.",
-        .field = PaneTextField{.id = std::string(nameID), .placeholder = "Theme name", .text = newName},
-        .buttons = {button(cancelID, "Cancel", ButtonRole::cancel), button(confirmID, "Rename", ButtonRole::confirm)}};
+    return {.title = "Rename Theme",
+            .message = "Enter a new name for this theme.",
+            .field = PaneTextField{.id = std::string(nameID), .placeholder = "Theme name", .text = newName},
+            .buttons = {titledButton(cancelID, "Cancel", ButtonRole::cancel),
+                        titledButton(confirmID, "Rename", ButtonRole::confirm)}};
 }
 
 PaneAlert deletionAlert(const std::string& themeName)
@@ -55,8 +46,8 @@ PaneAlert deletionAlert(const std::string& themeName)
             .message =
                 fmt::format("Are you sure you want to delete the theme “{}”? This action cannot be undone.", themeName),
             .field = std::nullopt,
-            .buttons = {button(confirmID, "Delete", ButtonRole::destructive),
-                        button(cancelID, "Cancel", ButtonRole::cancel)}};
+            .buttons = {titledButton(confirmID, "Delete", ButtonRole::destructive),
+                        titledButton(cancelID, "Cancel", ButtonRole::cancel)}};
 }
 
 } // namespace
@@ -80,7 +71,7 @@ ListSheet BasicThemesListView<Record>::sheet() const
                                     .line = std::string(texts.emptyLine)},
                     .rows = {},
                     .footer = fmt::format("{} theme{}", themes.size(), themes.size() == 1 ? "" : "s"),
-                    .close = button(closeID, "Close", ButtonRole::cancel)};
+                    .close = titledButton(closeID, "Close", ButtonRole::cancel)};
     const auto ids = rowIDs();
     for (std::size_t index = 0; index < themes.size(); ++index) {
         const auto& theme = themes[index];

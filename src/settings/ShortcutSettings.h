@@ -28,6 +28,18 @@ inline constexpr ShortcutKeys previousLayout{settingsKeys::previousLayoutKeyCode
 inline constexpr ShortcutKeys nextScreen{settingsKeys::nextScreenKeyCode, settingsKeys::nextScreenModifiers};
 inline constexpr ShortcutKeys previousScreen{settingsKeys::previousScreenKeyCode,
                                              settingsKeys::previousScreenModifiers};
+inline constexpr ShortcutKeys fsToggleMinimized{settingsKeys::fsToggleMinimizedKeyCode,
+                                                settingsKeys::fsToggleMinimizedModifiers};
+inline constexpr ShortcutKeys fsToggleAllWindows{settingsKeys::fsToggleAllWindowsKeyCode,
+                                                 settingsKeys::fsToggleAllWindowsModifiers};
+inline constexpr ShortcutKeys mrMoveLeft{settingsKeys::mrMoveLeftKeyCode, settingsKeys::mrMoveLeftModifiers};
+inline constexpr ShortcutKeys mrMoveRight{settingsKeys::mrMoveRightKeyCode, settingsKeys::mrMoveRightModifiers};
+inline constexpr ShortcutKeys mrMoveUp{settingsKeys::mrMoveUpKeyCode, settingsKeys::mrMoveUpModifiers};
+inline constexpr ShortcutKeys mrMoveDown{settingsKeys::mrMoveDownKeyCode, settingsKeys::mrMoveDownModifiers};
+inline constexpr ShortcutKeys mrCycleWindows{settingsKeys::mrCycleWindowsKeyCode,
+                                             settingsKeys::mrCycleWindowsModifiers};
+inline constexpr ShortcutKeys mrMinimize{settingsKeys::mrMinimizeKeyCode, settingsKeys::mrMinimizeModifiers};
+inline constexpr ShortcutKeys mrExitMode{settingsKeys::mrExitModeKeyCode, settingsKeys::mrExitModeModifiers};
 } // namespace shortcutKeys
 
 // A key and a mask of hotKeyModifiers as they are stored, unchecked: either may be negative or too large.

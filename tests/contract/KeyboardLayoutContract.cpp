@@ -1,3 +1,6 @@
+#include <set>
+#include <string_view>
+
 #include "contract/ContractTest.h"
 #include "platform/KeyboardLayout.h"
 
@@ -37,6 +40,15 @@ TEST_F(KeyboardLayoutContract, AKeyThatDoesNotExistHasNoCharacters)
     EXPECT_EQ(layout.characters(200), "");
     EXPECT_EQ(layout.characters(70000), "");
     EXPECT_EQ(layout.characters(-1), "");
+}
+
+TEST_F(KeyboardLayoutContract, EveryModifierHasANameOfItsOwn)
+{
+    const auto names = layout.modifierNames();
+    const std::set<std::string_view> different{names.command, names.shift, names.option, names.control};
+
+    EXPECT_EQ(different.size(), 4U);
+    EXPECT_FALSE(different.contains(""));
 }
 
 } // namespace

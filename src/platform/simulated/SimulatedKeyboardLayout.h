@@ -21,6 +21,7 @@ public:
     explicit SimulatedKeyboardLayout(Journal& journal);
 
     std::string characters(KeyCode keyCode) override;
+    ModifierNames modifierNames() const override { return {"Command", "Shift", "Option", "Control"}; }
 
     // What the key types with the modifiers of a key event.
     std::string typed(KeyCode keyCode, std::uint64_t flags) const;

@@ -11,6 +11,7 @@ public:
     explicit X11KeyboardLayout(const Keyboard& keyboard) : keyboard(keyboard) {}
 
     std::string characters(KeyCode keyCode) override;
+    ModifierNames modifierNames() const override { return {"Super", "Shift", "Alt", "Ctrl"}; }
 
 private:
     const Keyboard& keyboard;
