@@ -264,6 +264,19 @@ TEST_F(EventTapsTest, AShortcutOfAnotherProgramDoesNotKeepTheRestOfTheKeyAway)
     expectSeen({keyB, keyB});
 }
 
+TEST_F(EventTapsTest, AKeyMapWithSuperAndAltOnOneModifierCountsNoCombinationTwice)
+{
+    desktop.run({"xmodmap", "-e", "clear Mod1", "-e", "add Mod4 = Alt_L"});
+    desktop.waitFor("the new map", [&] {
+        return desktop.keyboard->mapping().state(hotKeyModifiers::option) ==
+               desktop.keyboard->mapping().state(hotKeyModifiers::command);
+    });
+    ASSERT_TRUE(desktop.holdElsewhere(XCB_MOD_MASK_4, XKB_KEY_b));
+    ASSERT_TRUE(tap->setKeysOfInterest({keyB}));
+    EXPECT_TRUE(tap->setKeysOfInterest({}));
+    EXPECT_TRUE(desktop.holdElsewhere(0, XKB_KEY_b));
+}
+
 TEST_F(EventTapsTest, KeysOfASmallSetAreDroppedWhateverTheLocks)
 {
     ASSERT_TRUE(tap->setKeysOfInterest({keyB}));

@@ -1,5 +1,8 @@
 #include "platform/x11/keys/KeyGrabs.h"
 
+#include <vector>
+
+#include "base/FatalError.h"
 #include "platform/x11/Connection.h"
 
 namespace quorvel::x11 {
@@ -24,7 +27,7 @@ KeyGrabs::Combinations KeyGrabs::take(const Combinations& combinations, Mode mod
         const Reply<xcb_generic_error_t> error(xcb_request_check(connection.xcb(), request.cookie));
         if (error) {
             claims.erase(request.combination);
-            refused.push_back(request.combination);
+            refused.insert(request.combination);
         }
     }
     return refused;
@@ -35,6 +38,9 @@ void KeyGrabs::giveBack(const Combinations& combinations)
     bool isChanged = false;
     for (const auto& combination : combinations) {
         const auto claim = claims.find(combination);
+        if (claim == claims.end()) {
+            fatalError("Keys are given back that were not taken");
+        }
         if (--claim->second == 0) {
             claims.erase(claim);
             xcb_ungrab_key(connection.xcb(), combination.keycode, connection.root(), combination.modifiers);

@@ -2,7 +2,7 @@
 
 #include <compare>
 #include <map>
-#include <vector>
+#include <set>
 
 #include <xcb/xcb.h>
 
@@ -23,7 +23,7 @@ struct KeyCombination {
 // server knows of one grab a program, so that the parts' claims are counted here.
 class KeyGrabs {
 public:
-    using Combinations = std::vector<KeyCombination>;
+    using Combinations = std::set<KeyCombination>;
 
     // What becomes of further keys while a taken key is down: they all come here, or the keyboard stops after each one
     // until KeyboardGrab decides whether it goes on to the application.
@@ -34,8 +34,8 @@ public:
     KeyGrabs& operator=(const KeyGrabs&) = delete;
     ~KeyGrabs() = default;
 
-    // Takes combinations, however many, in one round trip. Answers those that another program holds. One that is taken
-    // twice keeps its first mode.
+    // Takes combinations, however many, in one round trip. Answers those that another program holds; of these nothing
+    // is taken. One that is taken twice keeps its first mode.
     Combinations take(const Combinations& combinations, Mode mode);
 
     // Gives back what take() gave. Afterwards, keys that nobody holds any more go to the application again; a key that

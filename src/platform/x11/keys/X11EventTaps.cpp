@@ -62,7 +62,7 @@ std::vector<KeyState> modifierCombinations(const KeyMapping& mapping)
 KeyGrabs::Combinations difference(const KeyGrabs::Combinations& all, const KeyGrabs::Combinations& without)
 {
     KeyGrabs::Combinations rest;
-    std::ranges::set_difference(all, without, std::back_inserter(rest));
+    std::ranges::set_difference(all, without, std::inserter(rest, rest.end()));
     return rest;
 }
 
@@ -130,8 +130,7 @@ bool X11EventTaps::grabWholeKeyboard()
 bool X11EventTaps::grabKeys(const std::set<KeyCode>& keyCodes)
 {
     const auto wanted = combinationsOf(keyCodes);
-    auto refused = grabs.take(difference(wanted, taken), KeyGrabs::Mode::stopping);
-    std::ranges::sort(refused);
+    const auto refused = grabs.take(difference(wanted, taken), KeyGrabs::Mode::stopping);
     grabs.giveBack(difference(taken, wanted));
     taken = difference(wanted, refused);
     // Another program may well have a shortcut with one of the keys; the key by itself has to be ours.
@@ -161,11 +160,10 @@ KeyGrabs::Combinations X11EventTaps::combinationsOf(const std::set<KeyCode>& key
     for (const auto keyCode : keyCodes) {
         for (const auto keycode : mapping.keycodes(keyCode)) {
             for (const auto state : states) {
-                combinations.push_back({keycode, state});
+                combinations.insert({keycode, state});
             }
         }
     }
-    std::ranges::sort(combinations);
     return combinations;
 }
 

@@ -1,9 +1,9 @@
 #include "platform/x11/keys/X11HotKeys.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
-#include "platform/x11/Contains.h"
 #include "platform/x11/keys/Keyboard.h"
 
 namespace quorvel::x11 {
@@ -94,7 +94,7 @@ KeyGrabs::Combinations X11HotKeys::combinationsOf(KeyCode keyCode, std::uint32_t
     KeyGrabs::Combinations combinations;
     for (const auto keycode : mapping.keycodes(keyCode)) {
         for (const auto locks : mapping.lockCombinations()) {
-            combinations.push_back({keycode, static_cast<KeyState>(mapping.state(modifiers) | locks)});
+            combinations.insert({keycode, static_cast<KeyState>(mapping.state(modifiers) | locks)});
         }
     }
     return combinations;
@@ -104,8 +104,7 @@ KeyGrabs::Combinations X11HotKeys::takeWhatIsFree(const KeyGrabs::Combinations& 
 {
     const auto refused = grabs.take(combinations, KeyGrabs::Mode::swallowing);
     KeyGrabs::Combinations taken;
-    std::ranges::copy_if(combinations, std::back_inserter(taken),
-                         [&](const KeyCombination& combination) { return !contains(refused, combination); });
+    std::ranges::set_difference(combinations, refused, std::inserter(taken, taken.end()));
     return taken;
 }
 
