@@ -1,10 +1,12 @@
 // Measures what a person waits for: from a key press to painted overlays and to a window in its place, for Quorvel and
 // for other ways of doing the same, all in one run on displays of its own.
 //
-//   latency [--runs N] [--csv FILE]
+//   latency [--runs N] [--csv FILE] [--table overlay|composited|placement]
 //
 // Exits with status 1 when a budget is not met, 2 when something could not be measured.
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdio>
 #include <exception>
@@ -201,6 +203,18 @@ Report placementReport(int runs)
 struct Options {
     int runs = 40;
     std::string csvFile;
+    std::string table; // the only one to measure; empty for all
+};
+
+struct Table {
+    std::string_view name;
+    Report (*measure)(int runs);
+};
+
+constexpr std::array tables = {
+    Table{"overlay", [](int runs) { return overlayReport(Compositing::off, runs); }},
+    Table{"composited", [](int runs) { return overlayReport(Compositing::on, runs); }},
+    Table{"placement", placementReport},
 };
 
 std::optional<Options> parse(int count, char** words)
@@ -219,6 +233,8 @@ std::optional<Options> parse(int count, char** words)
             }
         } else if (name == "--csv") {
             options.csvFile = value;
+        } else if (name == "--table" && std::ranges::find(tables, value, &Table::name) != tables.end()) {
+            options.table = value;
         } else {
             return std::nullopt;
         }
@@ -228,15 +244,13 @@ std::optional<Options> parse(int count, char** words)
 
 int run(const Options& options)
 {
-    const std::function<Report()> measurements[] = {
-        [&] { return overlayReport(Compositing::off, options.runs); },
-        [&] { return overlayReport(Compositing::on, options.runs); },
-        [&] { return placementReport(options.runs); },
-    };
     bool met = true;
     std::string csv;
-    for (const auto& measure : measurements) {
-        const auto report = measure();
+    for (const auto& table : tables) {
+        if (!options.table.empty() && options.table != table.name) {
+            continue;
+        }
+        const auto report = table.measure(options.runs);
         fmt::print("{}\n", report.text());
         std::fflush(stdout);
         csv += report.csv();
@@ -255,7 +269,7 @@ int main(int argumentCount, char** arguments)
 {
     const auto options = quorvel::bench::parse(argumentCount, arguments);
     if (!options) {
-        std::fputs("usage: latency [--runs N] [--csv FILE]\n", stderr);
+        std::fputs("usage: latency [--runs N] [--csv FILE] [--table overlay|composited|placement]\n", stderr);
         return 2;
     }
     try {
