@@ -25,6 +25,37 @@ TEST_F(LayoutJourney, ALetterPutsTheFrontmostWindowIntoItsFrame)
     endCleanly();
 }
 
+TEST_F(LayoutJourney, TheWindowIsAskedToMoveBeforeTheFramesAreTakenAway)
+{
+    start();
+    const auto window = openWindow();
+    showOverlay(fullScreen);
+    const auto overlays = display.client.topLevelsOfProcess(quorvel->program().id());
+    const auto request = display.client.atom("_NET_MOVERESIZE_WINDOW");
+    std::vector<std::string> order;
+    display.client.observeEvents([&](const xcb_generic_event_t& event) {
+        const auto type = event.response_type & 0x7F;
+        if (type == XCB_CLIENT_MESSAGE && reinterpret_cast<const xcb_client_message_event_t&>(event).type == request) {
+            order.emplace_back("asked");
+        } else if (type == XCB_UNMAP_NOTIFY) {
+            const auto& unmapped = reinterpret_cast<const xcb_unmap_notify_event_t&>(event);
+            if (unmapped.event == display.client.root() &&
+                std::ranges::find(overlays, unmapped.window) != overlays.end()) {
+                order.emplace_back("taken away");
+            }
+        }
+    });
+    display.keyboard.tap(XKB_KEY_a);
+    quorvel->waitUntilPlaced(window->id(), screen);
+    quorvel->waitUntilIdle();
+    display.client.observeEvents(nullptr);
+    ASSERT_FALSE(overlays.empty());
+    ASSERT_FALSE(order.empty());
+    EXPECT_EQ(order.front(), "asked");
+    EXPECT_EQ(std::ranges::count(order, "taken away"), static_cast<std::ptrdiff_t>(overlays.size()));
+    endCleanly();
+}
+
 TEST_F(LayoutJourney, DownAndUpStepThroughTheSelectedLayoutsAndRoundTheEnds)
 {
     start();

@@ -46,7 +46,7 @@ X11ContractDesktop::X11ContractDesktop()
       graphics(valueOf(x11::OverlayGraphics::create(*connection))),
       textLayouts("DejaVu Sans"),
       textMetrics(textLayouts),
-      overlays(*connection, loop.mainLoop(), windows.screens, *keyboard, *graphics, textLayouts),
+      overlays(*connection, loop.mainLoop(), windows.precedence, windows.screens, *keyboard, *graphics, textLayouts),
       notificationCenter(loop.mainLoop()),
       bundle(resourceDirectories()),
       menus(loop.mainLoop()),

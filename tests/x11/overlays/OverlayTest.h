@@ -12,6 +12,7 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
 #include "platform/x11/GlibMainLoop.h"
+#include "platform/x11/Precedence.h"
 #include "platform/x11/RootProperties.h"
 #include "platform/x11/keys/Keyboard.h"
 #include "platform/x11/overlays/OverlayGraphics.h"
@@ -119,12 +120,13 @@ protected:
     std::unique_ptr<Connection> connection = Connection::open(display.server.display().c_str()).value();
     GlibMainLoop loop;
     ConnectionSource source{*connection};
+    Precedence precedence{loop};
     RootProperties rootProperties{*connection};
     X11Screens screens{*connection, loop, rootProperties};
     std::unique_ptr<Keyboard> keyboard = Keyboard::open(*connection, loop).value();
     std::unique_ptr<OverlayGraphics> graphics = OverlayGraphics::create(*connection).value();
     TextLayouts layouts{"DejaVu Sans"};
-    X11OverlayWindows windows{*connection, loop, screens, *keyboard, *graphics, layouts};
+    X11OverlayWindows windows{*connection, loop, precedence, screens, *keyboard, *graphics, layouts};
 };
 
 } // namespace quorvel::x11

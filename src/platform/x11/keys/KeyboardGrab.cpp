@@ -76,13 +76,18 @@ std::uint8_t KeyboardGrab::grabStatus(xcb_timestamp_t time)
 
 void KeyboardGrab::releaseSoon()
 {
-    if (phase == Phase::taken && !std::exchange(isReleaseDue, true)) {
+    if (phase != Phase::taken || std::exchange(isReleaseDue, true)) {
+        return;
+    }
+    // What the last key caused is asked of others in the next turn; the keyboard must not make that wait for the
+    // server.
+    mainQueue.async(weakGuard.guard([this] {
         mainQueue.async(weakGuard.guard([this] {
             if (std::exchange(isReleaseDue, false)) {
                 release();
             }
         }));
-    }
+    }));
 }
 
 void KeyboardGrab::release()

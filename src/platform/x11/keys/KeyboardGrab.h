@@ -36,7 +36,7 @@ public:
     // Gives the keyboard back as soon as no key is down: at once if none is.
     void release();
 
-    // The same in the loop's next turn, unless it is taken again before.
+    // The same in the loop's turn after the next, unless it is taken again before.
     void releaseSoon();
 
     // Gives it back whatever is down.

@@ -6,6 +6,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/x11/Connection.h"
+#include "platform/x11/Precedence.h"
 #include "platform/x11/overlays/OverlaySurface.h"
 #include "platform/x11/painting/CollapsedList.h"
 #include "platform/x11/painting/OpaqueList.h"
@@ -25,12 +26,13 @@ int coordinate(double value)
 
 } // namespace
 
-OverlayStage::OverlayStage(Connection& connection, MainQueue& mainQueue, X11Screens& screens, OverlayGraphics& graphics,
-                           const TextLayouts& layouts)
+OverlayStage::OverlayStage(Connection& connection, MainQueue& mainQueue, Precedence& precedence, X11Screens& screens,
+                           OverlayGraphics& graphics, const TextLayouts& layouts)
     : connection(connection),
       graphics(graphics),
       stacking(connection, mainQueue),
       mainQueue(mainQueue),
+      precedence(precedence),
       screens(screens),
       painter(layouts),
       pictures(painter),
@@ -39,6 +41,11 @@ OverlayStage::OverlayStage(Connection& connection, MainQueue& mainQueue, X11Scre
           connection.addEventHandler(XCB_EXPOSE, [this](const xcb_generic_event_t& event) { handleExpose(event); }))
 {
     mainQueue.async(weakGuard.guard([this] { warmUp(); }));
+}
+
+OverlayStage::~OverlayStage()
+{
+    destroyDisposed();
 }
 
 void OverlayStage::add(OverlaySurface& surface)
@@ -50,6 +57,22 @@ void OverlayStage::remove(OverlaySurface& surface)
 {
     std::erase(surfaces, &surface);
     std::erase(scheduled, &surface);
+}
+
+void OverlayStage::dispose(xcb_window_t window, Subscription events)
+{
+    if (disposed.empty()) {
+        precedence.afterwards(weakGuard.guard([this] { destroyDisposed(); }));
+    }
+    disposed.push_back({window, std::move(events)});
+}
+
+void OverlayStage::destroyDisposed()
+{
+    for (auto& [window, events] : std::exchange(disposed, {})) {
+        events.reset();
+        xcb_destroy_window(connection.xcb(), window);
+    }
 }
 
 void OverlayStage::schedule(OverlaySurface& surface)
@@ -64,6 +87,7 @@ void OverlayStage::schedule(OverlaySurface& surface)
 
 void OverlayStage::commit()
 {
+    destroyDisposed();
     for (auto* const surface : scheduled) {
         surface->prepare();
     }

@@ -23,16 +23,24 @@ namespace quorvel::x11 {
 
 class Connection;
 class OverlaySurface;
+class Precedence;
 class X11Screens;
 
 // What the overlay windows have in common: when they reach the server, how they are drawn, and in which order they lie.
 class OverlayStage {
 public:
-    OverlayStage(Connection& connection, MainQueue& mainQueue, X11Screens& screens, OverlayGraphics& graphics,
-                 const TextLayouts& layouts);
+    OverlayStage(Connection& connection, MainQueue& mainQueue, Precedence& precedence, X11Screens& screens,
+                 OverlayGraphics& graphics, const TextLayouts& layouts);
+    OverlayStage(const OverlayStage&) = delete;
+    OverlayStage& operator=(const OverlayStage&) = delete;
+    ~OverlayStage();
 
     void add(OverlaySurface& surface);
     void remove(OverlaySurface& surface);
+
+    // Takes a closed window away, after what a person waits for and before anything new is shown. `events` are those
+    // selected on it.
+    void dispose(xcb_window_t window, Subscription events);
 
     // Has the surface commit itself before the main loop waits the next time.
     void schedule(OverlaySurface& surface);
@@ -50,18 +58,26 @@ public:
     OverlayStacking stacking;
 
 private:
+    struct Disposed {
+        xcb_window_t window;
+        Subscription events;
+    };
+
     void commit();
+    void destroyDisposed();
     void invalidate();
     void handleExpose(const xcb_generic_event_t& event);
     void warmUp();
 
     MainQueue& mainQueue;
+    Precedence& precedence;
     X11Screens& screens;
     Painter painter;
     PictureCache pictures;
     CompositorWatch compositor;
     std::vector<OverlaySurface*> surfaces;
     std::vector<OverlaySurface*> scheduled;
+    std::vector<Disposed> disposed;
     Subscription exposures;
     WeakGuard weakGuard;
 };

@@ -55,10 +55,11 @@ void OverlaySurface::orderOut()
 
 void OverlaySurface::close()
 {
-    orderOut();
+    isShown = false;
     if (xWindow != XCB_WINDOW_NONE) {
-        events.reset();
-        xcb_destroy_window(stage.connection.xcb(), std::exchange(xWindow, XCB_WINDOW_NONE));
+        isMapped = false;
+        stage.stacking.remove(xWindow);
+        stage.dispose(std::exchange(xWindow, XCB_WINDOW_NONE), std::move(events));
         isCut = false;
         isPlanDue = true;
     }

@@ -17,7 +17,15 @@ ClientWindows::ClientWindows(Connection& connection, RootProperties& rootPropert
               haveClientsChanged = true;
           }
       }))
-{}
+{
+    const auto note = [this](const auto& event) { noteChange(event.window); };
+    windowChanges.push_back(connection.addHandler<xcb_configure_notify_event_t>(XCB_CONFIGURE_NOTIFY, note));
+    windowChanges.push_back(connection.addHandler<xcb_reparent_notify_event_t>(XCB_REPARENT_NOTIFY, note));
+    windowChanges.push_back(connection.addHandler<xcb_map_notify_event_t>(XCB_MAP_NOTIFY, note));
+    windowChanges.push_back(connection.addHandler<xcb_unmap_notify_event_t>(XCB_UNMAP_NOTIFY, note));
+    windowChanges.push_back(connection.addHandler<xcb_destroy_notify_event_t>(XCB_DESTROY_NOTIFY, note));
+    windowChanges.push_back(connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, note));
+}
 
 const WindowSnapshot* ClientWindows::find(xcb_window_t window)
 {
@@ -34,6 +42,32 @@ const WindowSnapshot* ClientWindows::find(xcb_window_t window, ProcessId process
     const auto* const snapshot = find(window);
     const bool isSame = snapshot != nullptr && snapshot->identity.process == process && !snapshot->isWithdrawn();
     return isSame ? snapshot : nullptr;
+}
+
+Subscription ClientWindows::follow(xcb_window_t window)
+{
+    auto& entry = followed[window];
+    if (++entry.followers == 1) {
+        entry.selection =
+            connection.selectEvents(window, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
+    }
+    return Subscription(weakGuard.guard([this, window] { unfollow(window); }));
+}
+
+void ClientWindows::unfollow(xcb_window_t window)
+{
+    const auto entry = followed.find(window);
+    if (--entry->second.followers == 0) {
+        followed.erase(entry);
+    }
+}
+
+void ClientWindows::noteChange(xcb_window_t window)
+{
+    if (const auto entry = followed.find(window); entry != followed.end()) {
+        entry->second.isKnown = false;
+        snapshots.erase(window);
+    }
 }
 
 // The window manager's own list may lag behind what is on the screen; the order of the frames never does.
@@ -84,9 +118,16 @@ void ClientWindows::beginTurn()
 {
     if (turn != connection.turn()) {
         turn = connection.turn();
-        snapshots.clear();
+        std::erase_if(snapshots, [this](const auto& entry) { return !isKnown(entry.first, entry.second); });
         order.reset();
     }
+}
+
+// A frame that had to be measured may change without a word to its client.
+bool ClientWindows::isKnown(xcb_window_t window, const std::optional<WindowSnapshot>& snapshot) const
+{
+    const auto entry = followed.find(window);
+    return entry != followed.end() && entry->second.isKnown && snapshot && snapshot->isFrameDescribed;
 }
 
 void ClientWindows::read(const std::vector<xcb_window_t>& windows)
@@ -97,6 +138,9 @@ void ClientWindows::read(const std::vector<xcb_window_t>& windows)
     auto results = reader.read(windows);
     for (std::size_t i = 0; i < windows.size(); ++i) {
         snapshots.insert_or_assign(windows[i], std::move(results[i]));
+        if (const auto entry = followed.find(windows[i]); entry != followed.end()) {
+            entry->second.isKnown = true;
+        }
     }
 }
 

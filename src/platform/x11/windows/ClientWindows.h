@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/Subscription.h"
+#include "base/WeakGuard.h"
 #include "platform/x11/windows/WindowReader.h"
 
 namespace quorvel::x11 {
@@ -14,7 +15,7 @@ class Connection;
 class RootProperties;
 
 // The windows that the window manager manages. Each is read at most once in a turn of the loop, however many questions
-// about it that turn has.
+// about it that turn has; one that is followed, again only after it has changed.
 class ClientWindows {
 public:
     ClientWindows(Connection& connection, RootProperties& rootProperties);
@@ -26,6 +27,10 @@ public:
     // having been given away again, is another one.
     const WindowSnapshot* find(xcb_window_t window, ProcessId process);
 
+    // Has the server tell of the window's changes (XCB_EVENT_MASK_STRUCTURE_NOTIFY and XCB_EVENT_MASK_PROPERTY_CHANGE)
+    // until the token goes.
+    Subscription follow(xcb_window_t window);
+
     // All that have not vanished, front to back.
     std::vector<xcb_window_t> frontToBack();
 
@@ -35,17 +40,29 @@ public:
     bool isOnCurrentDesktop(const WindowSnapshot& window);
 
 private:
+    struct Followed {
+        int followers = 0;
+        Subscription selection;
+        bool isKnown = false; // it was read after the selection, and has not changed since
+    };
+
     void beginTurn();
+    bool isKnown(xcb_window_t window, const std::optional<WindowSnapshot>& snapshot) const;
+    void noteChange(xcb_window_t window);
+    void unfollow(xcb_window_t window);
     void read(const std::vector<xcb_window_t>& windows);
 
     Connection& connection;
     RootProperties& rootProperties;
     WindowReader reader;
     std::unordered_map<xcb_window_t, std::optional<WindowSnapshot>> snapshots;
+    std::unordered_map<xcb_window_t, Followed> followed;
     std::optional<std::vector<xcb_window_t>> order;
     std::uint64_t turn = 0;
     bool haveClientsChanged = false;
     Subscription listChanges;
+    std::vector<Subscription> windowChanges;
+    WeakGuard weakGuard;
 };
 
 } // namespace quorvel::x11

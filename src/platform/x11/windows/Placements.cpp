@@ -5,6 +5,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/x11/Connection.h"
+#include "platform/x11/Precedence.h"
 #include "platform/x11/windows/ClientWindows.h"
 #include "platform/x11/windows/WindowManagerBarrier.h"
 
@@ -30,9 +31,14 @@ constexpr std::uint32_t watchedEvents = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVE
 
 } // namespace
 
-Placements::Placements(Connection& connection, MainQueue& mainQueue, ClientWindows& windows,
+Placements::Placements(Connection& connection, MainQueue& mainQueue, Precedence& precedence, ClientWindows& windows,
                        WindowManager& windowManager, WindowManagerBarrier& barrier)
-    : connection(connection), mainQueue(mainQueue), windows(windows), windowManager(windowManager), barrier(barrier)
+    : connection(connection),
+      mainQueue(mainQueue),
+      precedence(precedence),
+      windows(windows),
+      windowManager(windowManager),
+      barrier(barrier)
 {
     const auto noteChange = [this](const auto& event) { noteEvent(event.window); };
     subscriptions.push_back(connection.addHandler<xcb_configure_notify_event_t>(XCB_CONFIGURE_NOTIFY, noteChange));
@@ -61,18 +67,19 @@ Placements::Written& Placements::written(xcb_window_t window, const WindowSnapsh
     const auto [entry, isFirst] = writes.try_emplace(window);
     if (isFirst) {
         entry->second.snapshot = snapshot;
+        entry->second.precedence = precedence.claim();
     }
     return entry->second;
 }
 
 void Placements::flush()
 {
-    for (const auto& [window, entry] : std::exchange(writes, {})) {
+    for (auto& [window, entry] : std::exchange(writes, {})) {
         start(window, entry);
     }
 }
 
-void Placements::start(xcb_window_t window, const Written& written)
+void Placements::start(xcb_window_t window, Written& written)
 {
     const auto target = wholePixels(written.target);
     const auto previous = running.find(window);
@@ -81,7 +88,8 @@ void Placements::start(xcb_window_t window, const Written& written)
     }
     const auto& snapshot = written.snapshot;
     const auto number = ++lastNumber;
-    Running next{Placement(target, knownAnchor()), connection.selectEvents(window, watchedEvents), number};
+    Running next{Placement(target, knownAnchor()), connection.selectEvents(window, watchedEvents),
+                 std::move(written.precedence), number};
     auto& entry = running.insert_or_assign(window, std::move(next)).first->second;
     perform(window, entry, entry.placement.begin(snapshot));
     mainQueue.after(longestTime, weakGuard.guard([this, window, number] {
@@ -111,7 +119,9 @@ void Placements::noteEvent(xcb_window_t window)
     if (entry == running.end()) {
         return;
     }
-    entry->second.isAnswered = entry->second.isAnswered || !barrier.isSupported();
+    if (!barrier.isSupported()) {
+        noteAnswer(entry->second);
+    }
     noteActivity(window);
 }
 
@@ -126,10 +136,16 @@ void Placements::awaitAnswer(xcb_window_t window, Running& entry)
     barrier.whenReached(weakGuard.guard([this, window, request = entry.request] {
         const auto asking = running.find(window);
         if (asking != running.end() && asking->second.request == request) {
-            asking->second.isAnswered = true;
+            noteAnswer(asking->second);
             noteActivity(window);
         }
     }));
+}
+
+void Placements::noteAnswer(Running& entry)
+{
+    entry.isAnswered = true;
+    entry.precedence.reset();
 }
 
 void Placements::noteActivity(xcb_window_t window)

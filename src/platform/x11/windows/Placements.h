@@ -18,14 +18,15 @@ namespace quorvel::x11 {
 
 class ClientWindows;
 class Connection;
+class Precedence;
 class WindowManagerBarrier;
 
 // Moves windows and watches over the result. All that is written to a window in one turn of the loop becomes one
 // request. Nothing waits: what the window manager does comes as events.
 class Placements {
 public:
-    Placements(Connection& connection, MainQueue& mainQueue, ClientWindows& windows, WindowManager& windowManager,
-               WindowManagerBarrier& barrier);
+    Placements(Connection& connection, MainQueue& mainQueue, Precedence& precedence, ClientWindows& windows,
+               WindowManager& windowManager, WindowManagerBarrier& barrier);
 
     // Writing what the window is being brought to already does not disturb it.
     void setOrigin(xcb_window_t window, const WindowSnapshot& snapshot, RootPoint origin);
@@ -38,11 +39,13 @@ private:
     struct Written {
         PlacementTarget target;
         WindowSnapshot snapshot;
+        Subscription precedence;
     };
 
     struct Running {
         Placement placement;
         Subscription selection;
+        Subscription precedence;           // until the window manager has dealt with a request
         std::uint64_t number = 0;          // tells this placement from later ones of the same window
         std::uint64_t request = 0;         // tells its last request from earlier ones
         std::uint64_t activity = 0;        // tells its last request, answer or event from earlier ones
@@ -54,11 +57,12 @@ private:
 
     Written& written(xcb_window_t window, const WindowSnapshot& snapshot);
     void flush();
-    void start(xcb_window_t window, const Written& written);
+    void start(xcb_window_t window, Written& written);
     void handlePropertyChange(const xcb_property_notify_event_t& event);
     void noteActivity(xcb_window_t window);
     void noteEvent(xcb_window_t window);
     void awaitAnswer(xcb_window_t window, Running& entry);
+    static void noteAnswer(Running& entry);
     void reconsiderSoon(xcb_window_t window);
     void reconsider(xcb_window_t window);
     void settle(xcb_window_t window, std::uint64_t activity);
@@ -67,6 +71,7 @@ private:
 
     Connection& connection;
     MainQueue& mainQueue;
+    Precedence& precedence;
     ClientWindows& windows;
     WindowManager& windowManager;
     WindowManagerBarrier& barrier;

@@ -5,12 +5,13 @@
 namespace quorvel::x11 {
 
 WindowAdapters::WindowAdapters(Connection& connection, MainQueue& mainQueue, X11Workspace::Lifecycle lifecycle)
-    : rootProperties(connection),
+    : precedence(mainQueue),
+      rootProperties(connection),
       windowManager(connection, rootProperties),
       barrier(connection, windowManager),
       windows(connection, rootProperties),
       activation(connection, windows, windowManager),
-      placements(connection, mainQueue, windows, windowManager, barrier),
+      placements(connection, mainQueue, precedence, windows, windowManager, barrier),
       watcher(connection, mainQueue, windows),
       desktopEntries(DesktopEntries::standardDirectories()),
       screens(connection, mainQueue, rootProperties),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/x11/Precedence.h"
 #include "platform/x11/RootProperties.h"
 #include "platform/x11/screens/X11Screens.h"
 #include "platform/x11/windows/Activation.h"
@@ -19,6 +20,7 @@ namespace quorvel::x11 {
 struct WindowAdapters {
     WindowAdapters(Connection& connection, MainQueue& mainQueue, X11Workspace::Lifecycle lifecycle);
 
+    Precedence precedence;
     RootProperties rootProperties;
     WindowManager windowManager;
     WindowManagerBarrier barrier;

@@ -159,6 +159,7 @@ std::vector<std::optional<WindowSnapshot>> WindowReader::read(std::span<const xc
         const auto frame = extentsOf(cardinals(source.frame.take().get()));
         if (frame && *frame != Extents{}) {
             snapshot.frame = *frame;
+            snapshot.isFrameDescribed = true;
         } else {
             undescribed.push_back(i);
         }

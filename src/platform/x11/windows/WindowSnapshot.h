@@ -30,10 +30,11 @@ struct WindowIdentity {
 struct WindowSnapshot {
     WindowIdentity identity;
     xcb_window_t parent = XCB_NONE;
-    RootRect client;         // without its X border
-    Extents frame;           // from the client to the outer edge of the window manager's frame
-    std::int32_t border = 0; // the client's X border, where it is a part of `frame`
-    Extents shadow;          // the part of the client that is an invisible shadow
+    RootRect client;               // without its X border
+    Extents frame;                 // from the client to the outer edge of the window manager's frame
+    bool isFrameDescribed = false; // by the window manager, not measured
+    std::int32_t border = 0;       // the client's X border, where it is a part of `frame`
+    Extents shadow;                // the part of the client that is an invisible shadow
     std::uint8_t mapState = XCB_MAP_STATE_UNMAPPED;
     bool isHidden = false; // minimized
     bool isFullscreen = false;

@@ -10,12 +10,6 @@
 
 namespace quorvel::x11 {
 
-namespace {
-
-constexpr std::uint32_t watchedEvents = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-
-} // namespace
-
 WindowWatcher::WindowWatcher(Connection& connection, MainQueue& mainQueue, ClientWindows& windows)
     : connection(connection), mainQueue(mainQueue), windows(windows)
 {
@@ -38,7 +32,7 @@ Subscription WindowWatcher::watch(xcb_window_t window, Listener function)
     auto listener = std::make_shared<const Listener>(std::move(function));
     const auto [entry, isFirst] = watched.try_emplace(window);
     if (isFirst) {
-        entry->second.selection = connection.selectEvents(window, watchedEvents);
+        entry->second.following = windows.follow(window);
         if (const auto* const snapshot = windows.find(window)) {
             entry->second.outer = snapshot->outer();
         }

@@ -38,7 +38,7 @@ public:
 private:
     struct Watched {
         RootRect outer;
-        Subscription selection;
+        Subscription following;
         std::vector<std::shared_ptr<const Listener>> listeners;
     };
 
