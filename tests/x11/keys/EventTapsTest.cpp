@@ -204,6 +204,64 @@ TEST_F(EventTapsTest, AModeThatBeginsAnewBeforeTheLastKeyIsUpHasTheKeyboardAtOnc
     EXPECT_THAT(desktop.pressesInWindow(), IsEmpty());
 }
 
+TEST_F(EventTapsTest, TheKeyboardIsGivenBackAfterWhatTheLastKeyCaused)
+{
+    bool wasFree = true;
+    ASSERT_TRUE(tap->setKeysOfInterest(allKeyCodes()));
+    auto& queue = desktop.loop.mainLoop();
+    queue.async([&] { queue.async([&] { wasFree = isKeyboardFree(); }); }); // a window to move, and the request for it
+    tap->setKeysOfInterest({});
+    desktop.settle();
+    EXPECT_FALSE(wasFree);
+    EXPECT_TRUE(isKeyboardFree());
+}
+
+TEST_F(EventTapsTest, AReleaseThatGotLostInAModeDoesNotKeepTheKeyboardAfterIt)
+{
+    ASSERT_TRUE(tap->setKeysOfInterest(allKeyCodes()));
+    keys.press(XKB_KEY_b);
+    expectSeen({keyB});
+    keys.release(XKB_KEY_b);
+    desktop.loseEvents();
+    tap->setKeysOfInterest({});
+    desktop.settle();
+    EXPECT_FALSE(isKeyboardFree()) << "for all that is known the key is still down";
+    desktop.waitFor("the keyboard to be free", [&] { return isKeyboardFree(); });
+    expectOnlyArrives({}, XKB_KEY_x);
+}
+
+TEST_F(EventTapsTest, AReleaseThatGetsLostWhileLeavingDoesNotKeepTheKeyboard)
+{
+    ASSERT_TRUE(tap->setKeysOfInterest(allKeyCodes()));
+    keys.press(XKB_KEY_b);
+    expectSeen({keyB});
+    tap->setKeysOfInterest({});
+    desktop.settle();
+    EXPECT_FALSE(isKeyboardFree());
+    keys.release(XKB_KEY_b);
+    desktop.loseEvents();
+    keys.tap(XKB_KEY_x); // the server keeps it back until the release has been dealt with
+    desktop.waitFor("the keyboard to be free", [&] { return isKeyboardFree(); });
+    expectOnlyArrives({XKB_KEY_x}, XKB_KEY_y);
+}
+
+TEST_F(EventTapsTest, AReleaseThatGotLostInASmallSetKeepsNoKeyFromAnybody)
+{
+    ASSERT_TRUE(tap->setKeysOfInterest({keyB, escape}));
+    keys.press(XKB_KEY_b);
+    expectSeen({keyB});
+    keys.release(XKB_KEY_b);
+    desktop.loseEvents();
+    keys.tap(XKB_KEY_x);
+    desktop.window.waitForPress(desktop.codeOf(XKB_KEY_x));
+    keys.tap(XKB_KEY_Escape);
+    expectSeen({keyB, escape});
+    tap->setKeysOfInterest({});
+    desktop.settle();
+    EXPECT_TRUE(isKeyboardFree());
+    expectOnlyArrives({XKB_KEY_x}, XKB_KEY_y);
+}
+
 TEST_F(EventTapsTest, AHotKeyPressedWhileLeavingIsNotHandedOn)
 {
     int fired = 0;

@@ -45,6 +45,14 @@ void KeysDisplay::settle()
     }
 }
 
+void KeysDisplay::loseEvents()
+{
+    display.client.sync();
+    connection->sync();
+    while (const Reply<xcb_generic_event_t> lost{xcb_poll_for_event(connection->xcb())}) {
+    }
+}
+
 void KeysDisplay::run(const std::vector<std::string>& words)
 {
     xtest::ChildProcess process({words, display.server.clientEnvironment()});

@@ -25,6 +25,9 @@ public:
     // Turns until everything that the server has sent so far is handled, and what that caused as well.
     void settle();
 
+    // Drops what the server has sent so far and nobody has handled, as when a keyboard is pulled out.
+    void loseEvents();
+
     // Runs a command on the display and waits for its end.
     void run(const std::vector<std::string>& words);
 
