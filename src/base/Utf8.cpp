@@ -51,6 +51,37 @@ bool isAlphanumeric(const Scalar& scalar)
     }
 }
 
+bool isWhiteSpace(const Scalar& scalar)
+{
+    if (scalar.codePoint < 0) {
+        return false;
+    }
+    switch (utf8proc_category(scalar.codePoint)) {
+    case UTF8PROC_CATEGORY_ZS:
+    case UTF8PROC_CATEGORY_ZL:
+    case UTF8PROC_CATEGORY_ZP:
+        return true;
+    default:
+        return (scalar.codePoint >= '\t' && scalar.codePoint <= '\r') || scalar.codePoint == 0x85;
+    }
+}
+
+// The text from the first to the last scalar that is to be kept.
+std::string_view trimmedTo(std::string_view text, bool (*isKept)(const Scalar&))
+{
+    std::size_t begin = text.size();
+    std::size_t end = text.size();
+    for (std::size_t offset = 0; offset < text.size();) {
+        const auto scalar = scalarAt(text, offset);
+        if (isKept(scalar)) {
+            begin = std::min(begin, offset);
+            end = offset + scalar.length;
+        }
+        offset += scalar.length;
+    }
+    return text.substr(begin, end - begin);
+}
+
 // The offset just behind the character that begins at `offset`.
 std::size_t characterEnd(std::string_view text, std::size_t offset)
 {
@@ -117,17 +148,12 @@ bool isNumericCharacter(std::string_view character)
 
 std::string_view trimmedToAlphanumerics(std::string_view text)
 {
-    std::size_t begin = text.size();
-    std::size_t end = text.size();
-    for (std::size_t offset = 0; offset < text.size();) {
-        const auto scalar = scalarAt(text, offset);
-        if (isAlphanumeric(scalar)) {
-            begin = std::min(begin, offset);
-            end = offset + scalar.length;
-        }
-        offset += scalar.length;
-    }
-    return text.substr(begin, end - begin);
+    return trimmedTo(text, isAlphanumeric);
+}
+
+std::string_view trimmedOfWhiteSpace(std::string_view text)
+{
+    return trimmedTo(text, [](const Scalar& scalar) { return !isWhiteSpace(scalar); });
 }
 
 std::string validUtf8(std::string_view text)

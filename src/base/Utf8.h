@@ -22,6 +22,9 @@ bool isNumericCharacter(std::string_view character);
 // The text without what stands at its ends and is neither a letter, a mark nor a number of any script.
 std::string_view trimmedToAlphanumerics(std::string_view text);
 
+// The text without blanks, tabs, line ends and the like at its ends.
+std::string_view trimmedOfWhiteSpace(std::string_view text);
+
 // The text with every invalid byte replaced by U+FFFD.
 std::string validUtf8(std::string_view text);
 

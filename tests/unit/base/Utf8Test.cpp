@@ -63,5 +63,14 @@ TEST(Utf8, InvalidBytesBecomeReplacementCharacters)
     EXPECT_EQ(validUtf8("né"), "né");
 }
 
+TEST(Utf8, WhiteSpaceIsTrimmedFromTheEndsOnly)
+{
+    EXPECT_EQ(trimmedOfWhiteSpace(" 5 "), "5");
+    EXPECT_EQ(trimmedOfWhiteSpace("\t a b\u00A0\u2003\n"), "a b");
+    EXPECT_EQ(trimmedOfWhiteSpace(" - "), "-");
+    EXPECT_EQ(trimmedOfWhiteSpace("  "), "");
+    EXPECT_EQ(trimmedOfWhiteSpace(""), "");
+}
+
 } // namespace
 } // namespace quorvel
