@@ -42,7 +42,8 @@ MainController::MainController(const Platform& platform, GlobalEventBlocker* blo
       layouts(platform.bundle, Settings(platform.userDefaults), platform.log),
       eventBlocker(blocker),
       layoutOverlayMode(modeEnvironment()),
-      focusSwitcherMode(modeEnvironment(), modes, [this] { dismissFocusSwitcher(); })
+      focusSwitcherMode(modeEnvironment(), modes, [this] { dismissFocusSwitcher(); }),
+      moveResizeMode(modeEnvironment(), modes)
 {
     layouts.loadLayouts();
     layouts.seedDefaultLayoutsIfNeeded();
@@ -138,6 +139,7 @@ void MainController::handleAction(Action action, const ActionArguments& argument
         if (isLabelling()) {
             leaveCurrentMode();
         }
+        moveResizeMode.toggle();
         break;
     case Action::focusSwitcher:
         switchFocus();
@@ -207,13 +209,7 @@ void MainController::exitCurrentMode()
 {
     overlayWindowManager.hideAll();
     releaseBlocker();
-    if (modes.moveResizeElement) {
-        modes.moveResizeElement->hideOverlayFrame();
-        modes.moveResizeElement.reset();
-    }
-    if (modes.snapTargetOverlay) {
-        modes.snapTargetOverlay->hide();
-    }
+    moveResizeMode.leave();
     modes.eventMonitor.reset();
     if (!overlayWindowManager.isOverlayVisible()) {
         state.currentState = StateManager::States::normal;

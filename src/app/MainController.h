@@ -9,6 +9,7 @@
 #include "app/FocusSwitcherMode.h"
 #include "app/LayoutOverlayMode.h"
 #include "app/ModeState.h"
+#include "app/MoveResizeMode.h"
 #include "app/StateManager.h"
 #include "base/Subscription.h"
 #include "base/WeakGuard.h"
@@ -101,6 +102,7 @@ private:
     std::shared_ptr<CurrentScreen> currentScreen = std::make_shared<CurrentScreen>();
     LayoutOverlayMode layoutOverlayMode;
     FocusSwitcherMode focusSwitcherMode;
+    MoveResizeMode moveResizeMode;
     std::vector<Subscription> observers; // of notifications; they stay for good
     WeakGuard weakly;
 };

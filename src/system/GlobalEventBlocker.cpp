@@ -119,6 +119,19 @@ void GlobalEventBlocker::showKeyCapturePanel()
     } else if (frontmost->process != platform.workspace.ownProcess()) {
         previousApp = frontmost->process;
     }
+    takeFocus();
+}
+
+void GlobalEventBlocker::keepKeysFrom(ProcessId activated)
+{
+    if (keyCapturePanel && keyCapturePanel->isVisible()) {
+        setPreviousApp(activated);
+        takeFocus();
+    }
+}
+
+void GlobalEventBlocker::takeFocus()
+{
     keyCapturePanel->orderFrontRegardless();
     platform.workspace.activateSelf();
     keyCapturePanel->makeKey();

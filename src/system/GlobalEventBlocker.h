@@ -53,6 +53,10 @@ public:
     // While the panel has the focus: gives it to this process later, instead of the one that had it.
     void setPreviousApp(ProcessId process);
 
+    // After an application was activated in the midst of a mode: if the panel is in use, it takes the focus back, and
+    // that application gets it in the end.
+    void keepKeysFrom(ProcessId activated);
+
     // Empties the set, hides the panel and gives the focus back.
     void clearBlockedKeys();
 
@@ -61,6 +65,7 @@ private:
     bool blocks(KeyCode keyCode) const;
     void deliver(const CapturedKey& key);
     void announceBlockedKeys();
+    void takeFocus();
     void hideKeyCapturePanel();
 
     const Platform& platform;

@@ -10,31 +10,11 @@
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/Screens.h"
+#include "system/ScreenFlip.h"
 
 namespace quorvel {
 
 namespace {
-
-// Turns the y axis over: what was measured from `top` downwards is then measured from 0 upwards, and the reverse.
-//
-//   AX    0 -+- - - - - - -   top      screen
-//            |   +---+  y
-//            |   |   |
-//            |   +---+        y' = top - y - height
-//       y    v                0
-template <class To, class From>
-Rect<To> flipped(const Rect<From>& rect, double top)
-{
-    return {rect.x, top - rect.y - rect.height, rect.width, rect.height};
-}
-
-template <class To, class From>
-Rect<To> flippedByPrimaryHeight(const Platform& platform, const Rect<From>& rect)
-{
-    const auto screens = platform.screens.screens();
-    return screens.empty() ? Rect<To>{rect.x, rect.y, rect.width, rect.height}
-                           : flipped<To>(rect, screens.front().frame.height);
-}
 
 ScreenRect unionOfFrames(const std::vector<Screen>& screens)
 {
@@ -117,12 +97,12 @@ std::optional<ScreensModel> ScreensModel::step(Direction direction)
 
 ScreenRect ScreensModel::appKitRectFromAccessibility(const Platform& platform, const AxRect& rect)
 {
-    return flippedByPrimaryHeight<ScreenSpace>(platform, rect);
+    return flippedByPrimaryHeight<ScreenSpace>(rect, platform.screens.screens());
 }
 
 AxRect ScreensModel::accessibilityRectFromAppKit(const Platform& platform, const ScreenRect& rect)
 {
-    return flippedByPrimaryHeight<AxSpace>(platform, rect);
+    return flippedByPrimaryHeight<AxSpace>(rect, platform.screens.screens());
 }
 
 } // namespace quorvel

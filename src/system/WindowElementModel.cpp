@@ -12,6 +12,7 @@
 #include "platform/Workspace.h"
 #include "settings/AppearanceSettings.h"
 #include "settings/Settings.h"
+#include "system/AxReading.h"
 #include "system/OverlayFrameWindowController.h"
 #include "system/ScreensModel.h"
 
@@ -34,27 +35,9 @@ std::optional<Value> valueOfType(const AxValue& value)
     return typed != nullptr ? std::optional(*typed) : std::nullopt;
 }
 
-// The value of an attribute if it can be read and is of that type; no line in the log if not.
-template <class Value>
-std::optional<Value> quietAttribute(const Platform& platform, const AxElementRef& element, std::string_view name)
-{
-    const auto value = platform.accessibility.copyAttribute(element, name);
-    return value ? valueOfType<Value>(*value) : std::nullopt;
-}
-
 bool isWindow(const Platform& platform, const AxElementRef& element)
 {
     return quietAttribute<std::string>(platform, element, axNames::role) == axNames::windowRole;
-}
-
-std::optional<AxRect> quietRect(const Platform& platform, const AxElementRef& element)
-{
-    const auto position = quietAttribute<AxPoint>(platform, element, axNames::position);
-    if (!position) {
-        return std::nullopt;
-    }
-    const auto size = quietAttribute<Size>(platform, element, axNames::size);
-    return size ? std::optional(AxRect::of(*position, *size)) : std::nullopt;
 }
 
 } // namespace

@@ -125,7 +125,9 @@ TEST_F(MainControllerActionsTest, MoveResizeLeavesTheOverlay)
 {
     pressOverlayHotKey();
     type(15, eventFlags::command | eventFlags::option);
-    EXPECT_TRUE(isOverlayGone());
+    EXPECT_TRUE(shownLabels().empty());
+    EXPECT_EQ(state(), States::normal);
+    EXPECT_NE(controller().modeState().moveResizeElement, nullptr);
 }
 
 TEST_F(MainControllerActionsTest, EveryHotKeyTakesTheWholeFocusSwitcherDown)
@@ -134,6 +136,7 @@ TEST_F(MainControllerActionsTest, EveryHotKeyTakesTheWholeFocusSwitcherDown)
         enterFocusSwitcher();
         perform(action);
         EXPECT_TRUE(isFocusSwitcherGone());
+        perform(Action::cancel);
         EXPECT_TRUE(isOverlayGone());
     }
 }

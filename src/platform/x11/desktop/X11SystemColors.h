@@ -18,7 +18,7 @@ public:
 
     Color accent() const override;
     Color blue() const override { return Color::bytes(53, 132, 228); }
-    Color green() const override { return Color::bytes(51, 209, 122); }
+    Color green() const override { return Color::bytes(48, 209, 88); }
     Color yellow() const override { return Color::bytes(246, 211, 45); }
 
 private:
