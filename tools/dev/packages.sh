@@ -5,7 +5,7 @@ debianPackages() {
     case $1 in
     core)
         echo g++ cmake ninja-build pkg-config ccache git
-        echo libfmt-dev nlohmann-json3-dev libutf8proc-dev libgtest-dev libgmock-dev
+        echo libfmt-dev nlohmann-json3-dev libutf8proc-dev libexpat1-dev libgtest-dev libgmock-dev
         ;;
     x11)
         echo qt6-base-dev libglib2.0-dev libcairo2-dev libpango1.0-dev libxkbcommon-dev libxkbcommon-x11-dev

@@ -11,7 +11,7 @@ import sys
 LAYERS = ["base", "platform", "settings", "system", "layouts", "preferences", "app"]
 
 # Libraries that run everywhere; any other header with a folder or a suffix belongs to a platform.
-PORTABLE_LIBRARIES = re.compile(r"(fmt|nlohmann)/|utf8proc\.h$")
+PORTABLE_LIBRARIES = re.compile(r"(fmt|nlohmann)/|(utf8proc|expat)\.h$")
 TEST_LIBRARIES = re.compile(r"(gtest|gmock|benchmark)/")
 STANDARD_HEADER = re.compile(r"[a-z_]+$")
 

@@ -15,6 +15,7 @@
 #include "platform/simulated/SimulatedEventMonitors.h"
 #include "platform/simulated/SimulatedEventTaps.h"
 #include "platform/simulated/SimulatedHotKeys.h"
+#include "platform/simulated/SimulatedHttpClient.h"
 #include "platform/simulated/SimulatedKeyboard.h"
 #include "platform/simulated/SimulatedKeyboardLayout.h"
 #include "platform/simulated/SimulatedLog.h"
@@ -110,6 +111,7 @@ public:
     SimulatedAlerts alerts{journal, mainQueue};
     SimulatedPreferencesUi preferencesUi{journal, mainQueue, notificationCenter, windowServer};
     SimulatedUpdater updater{journal};
+    SimulatedHttpClient httpClient{journal, mainQueue};
     SimulatedKeyboard keyboard;
 
 private:
