@@ -9,14 +9,7 @@
 namespace quorvel::x11 {
 
 ClientWindows::ClientWindows(Connection& connection, RootProperties& rootProperties)
-    : connection(connection),
-      rootProperties(rootProperties),
-      reader(connection),
-      listChanges(connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
-          if (event.window == this->connection.root() && event.atom == this->connection.atoms().netClientList) {
-              haveClientsChanged = true;
-          }
-      }))
+    : connection(connection), rootProperties(rootProperties), reader(connection)
 {
     const auto note = [this](const auto& event) { noteChange(event.window); };
     windowChanges.push_back(connection.addHandler<xcb_configure_notify_event_t>(XCB_CONFIGURE_NOTIFY, note));
@@ -132,9 +125,6 @@ bool ClientWindows::isKnown(xcb_window_t window, const std::optional<WindowSnaps
 
 void ClientWindows::read(const std::vector<xcb_window_t>& windows)
 {
-    if (std::exchange(haveClientsChanged, false)) {
-        reader.forgetAllBut(rootProperties.clientList.values());
-    }
     auto results = reader.read(windows);
     for (std::size_t i = 0; i < windows.size(); ++i) {
         snapshots.insert_or_assign(windows[i], std::move(results[i]));

@@ -59,8 +59,6 @@ private:
     std::unordered_map<xcb_window_t, Followed> followed;
     std::optional<std::vector<xcb_window_t>> order;
     std::uint64_t turn = 0;
-    bool haveClientsChanged = false;
-    Subscription listChanges;
     std::vector<Subscription> windowChanges;
     WeakGuard weakGuard;
 };

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <set>
 
 #include <xcb/res.h>
 
@@ -131,6 +130,12 @@ std::optional<ProcessId> localProcess(const xcb_res_query_client_ids_reply_t* re
 
 } // namespace
 
+WindowReader::WindowReader(Connection& connection)
+    : connection(connection),
+      destructions(connection.addHandler<xcb_destroy_notify_event_t>(
+          XCB_DESTROY_NOTIFY, [this](const auto& event) { identities.erase(event.window); }))
+{}
+
 std::vector<std::optional<WindowSnapshot>> WindowReader::read(std::span<const xcb_window_t> windows)
 {
     const auto& atoms = connection.atoms();
@@ -149,10 +154,11 @@ std::vector<std::optional<WindowSnapshot>> WindowReader::read(std::span<const xc
         const auto attributes = source.attributes.take();
         const auto tree = source.tree.take();
         if (!place || !attributes || !tree) {
+            identities.erase(windows[i]);
             continue;
         }
         auto& snapshot = snapshots[i].emplace();
-        snapshot.identity = identities[windows[i]];
+        snapshot.identity = identities[windows[i]].identity;
         snapshot.parent = tree->parent;
         snapshot.client = place->rect;
         snapshot.mapState = attributes->map_state;
@@ -252,22 +258,17 @@ std::vector<xcb_window_t> WindowReader::topLevelAncestors(std::span<const xcb_wi
     }
 }
 
-void WindowReader::forgetAllBut(std::span<const xcb_window_t> windows)
-{
-    const std::set<xcb_window_t> kept(windows.begin(), windows.end());
-    std::erase_if(identities, [&](const auto& entry) { return !kept.contains(entry.first); });
-}
-
 void WindowReader::readIdentities(std::span<const xcb_window_t> windows)
 {
     std::vector<PendingIdentity> pending;
     for (const auto window : windows) {
         if (!identities.contains(window)) {
+            identities[window].selection = connection.selectEvents(window, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
             pending.emplace_back(connection, window);
         }
     }
     for (auto& source : pending) {
-        auto& identity = identities[source.window];
+        auto& identity = identities[source.window].identity;
         identity.kind = kindOf(cardinals(source.type.take().get()));
         const auto wmClass = text(source.wmClass.take().get());
         identity.instance = wmClass.c_str();

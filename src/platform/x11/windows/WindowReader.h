@@ -7,6 +7,7 @@
 
 #include <xcb/xcb.h>
 
+#include "base/Subscription.h"
 #include "platform/x11/windows/WindowSnapshot.h"
 
 namespace quorvel::x11 {
@@ -16,7 +17,7 @@ class Connection;
 // Reads windows, many at the price of one: all requests are sent before the first reply is awaited.
 class WindowReader {
 public:
-    explicit WindowReader(Connection& connection) : connection(connection) {}
+    explicit WindowReader(Connection& connection);
 
     // One entry for each window, in their order; absent for those that vanished. Costs one round trip, and up to three
     // more where some window's frame is not described by properties.
@@ -29,9 +30,6 @@ public:
     std::vector<xcb_window_t> topLevelAncestors(std::span<const xcb_window_t> windows,
                                                 std::span<const xcb_window_t> parents);
 
-    // Forgets the identities of all windows but these.
-    void forgetAllBut(std::span<const xcb_window_t> windows);
-
 private:
     void readIdentities(std::span<const xcb_window_t> windows);
     void measureFrames(std::span<const xcb_window_t> windows, std::vector<std::optional<WindowSnapshot>>& snapshots,
@@ -39,8 +37,15 @@ private:
     WindowKind kindOf(std::span<const std::uint32_t> types) const;
     ProcessId clientNumber(xcb_window_t window) const;
 
+    // Holds until the window goes, and no longer: its number may be given to another one at once.
+    struct KnownIdentity {
+        Subscription selection;
+        WindowIdentity identity;
+    };
+
     Connection& connection;
-    std::map<xcb_window_t, WindowIdentity> identities;
+    std::map<xcb_window_t, KnownIdentity> identities;
+    Subscription destructions;
 };
 
 } // namespace quorvel::x11
