@@ -4,6 +4,7 @@
 #include <charconv>
 #include <iterator>
 #include <optional>
+#include <ranges>
 #include <utility>
 
 #include <fmt/format.h>
@@ -252,8 +253,8 @@ void LayoutsPreferencesViewController::remove()
         return;
     }
     std::vector<LayoutSummary> removed;
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-        const auto layout = selected.begin() + static_cast<std::ptrdiff_t>(*row);
+    for (const auto row : std::views::reverse(rows)) {
+        const auto layout = selected.begin() + static_cast<std::ptrdiff_t>(row);
         removed.push_back(*layout);
         selected.erase(layout);
     }
