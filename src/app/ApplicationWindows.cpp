@@ -1,9 +1,9 @@
 #include "app/ApplicationWindows.h"
 
 #include <utility>
-#include <variant>
 
 #include "platform/Platform.h"
+#include "system/AxReading.h"
 
 namespace quorvel {
 
@@ -30,14 +30,14 @@ std::vector<AxElementRef> ApplicationWindows::minimizedWindows(ProcessId process
 {
     auto windows = application(process).elements;
     std::erase_if(windows, [this](const AxElementRef& window) {
-        return !read<bool>(window, axNames::minimized).value_or(false);
+        return !quietAttribute<bool>(platform, window, axNames::minimized).value_or(false);
     });
     return windows;
 }
 
 std::string ApplicationWindows::title(const AxElementRef& window) const
 {
-    return window ? read<std::string>(window, axNames::title).value_or("") : "";
+    return window ? quietAttribute<std::string>(platform, window, axNames::title).value_or("") : "";
 }
 
 ApplicationWindows::Application& ApplicationWindows::application(ProcessId process)
@@ -45,7 +45,7 @@ ApplicationWindows::Application& ApplicationWindows::application(ProcessId proce
     const auto [entry, isNew] = applications.try_emplace(process);
     if (isNew) {
         const auto element = platform.accessibility.applicationElement(process);
-        if (auto elements = read<std::vector<AxElementRef>>(element, axNames::windows)) {
+        if (auto elements = quietAttribute<std::vector<AxElementRef>>(platform, element, axNames::windows)) {
             entry->second.elements = *std::move(elements);
         }
     }
@@ -58,27 +58,10 @@ std::vector<ApplicationWindows::Window>& ApplicationWindows::locatedWindows(Proc
     if (!owner.located) {
         owner.located.emplace();
         for (const auto& element : owner.elements) {
-            const auto position = read<AxPoint>(element, axNames::position);
-            const auto size = read<Size>(element, axNames::size);
-            auto& window = owner.located->emplace_back();
-            window.element = element;
-            if (position && size) {
-                window.rect = AxRect::of(*position, *size);
-            }
+            owner.located->push_back({element, quietRect(platform, element)});
         }
     }
     return *owner.located;
-}
-
-template <class Value>
-std::optional<Value> ApplicationWindows::read(const AxElementRef& element, std::string_view name) const
-{
-    auto value = platform.accessibility.copyAttribute(element, name);
-    if (!value) {
-        return std::nullopt;
-    }
-    auto* const typed = std::get_if<Value>(&*value);
-    return typed != nullptr ? std::optional<Value>(std::move(*typed)) : std::nullopt;
 }
 
 } // namespace quorvel

@@ -3,7 +3,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "base/Geometry.h"
@@ -48,9 +47,6 @@ private:
 
     Application& application(ProcessId process);
     std::vector<Window>& locatedWindows(ProcessId process);
-
-    template <class Value>
-    std::optional<Value> read(const AxElementRef& element, std::string_view name) const;
 
     const Platform& platform;
     std::map<ProcessId, Application> applications;

@@ -137,7 +137,7 @@ void MainController::handleAction(Action action, const ActionArguments& argument
         break;
     case Action::moveResizeFrontmost:
         if (isLabelling()) {
-            leaveCurrentMode();
+            exitCurrentMode();
         }
         moveResizeMode.toggle();
         break;
@@ -150,10 +150,10 @@ void MainController::handleAction(Action action, const ActionArguments& argument
 void MainController::toggleOverlay()
 {
     if (modes.moveResizeElement) {
-        leaveCurrentMode();
+        exitCurrentMode();
         showOverlay(std::nullopt, nullptr);
     } else if (isLabelling()) {
-        leaveCurrentMode();
+        exitCurrentMode();
     } else {
         showOverlay(std::nullopt, nullptr);
     }
@@ -162,9 +162,9 @@ void MainController::toggleOverlay()
 void MainController::switchFocus()
 {
     if (modes.moveResizeElement) {
-        leaveCurrentMode();
+        exitCurrentMode();
     } else if (isLabelling()) {
-        leaveCurrentMode();
+        exitCurrentMode();
         return;
     }
     focusSwitcherMode.start();
@@ -172,7 +172,7 @@ void MainController::switchFocus()
 
 void MainController::showStepped(const ActionArguments& arguments)
 {
-    leaveCurrentMode();
+    exitCurrentMode();
     showOverlay(argumentAt<ScreensModel>(arguments, 0), elementAt(arguments, 1));
 }
 
@@ -180,7 +180,7 @@ void MainController::jumpToLayout(const ActionArguments& arguments)
 {
     const auto id = argumentAt<std::string>(arguments, 0);
     if (id && layouts.selectLayoutWithID(*id)) {
-        leaveCurrentMode();
+        exitCurrentMode();
         showOverlay(argumentAt<ScreensModel>(arguments, 1), elementAt(arguments, 2));
     }
 }
@@ -214,6 +214,9 @@ void MainController::exitCurrentMode()
     if (!overlayWindowManager.isOverlayVisible()) {
         state.currentState = StateManager::States::normal;
     }
+    if (isFocusSwitcherLeft()) {
+        dismissFocusSwitcher();
+    }
 }
 
 void MainController::dismissFocusSwitcher()
@@ -242,15 +245,6 @@ bool MainController::isFocusSwitcherLeft() const
 {
     return modes.focusSwitcherMouseMonitor.isActive() || !modes.minimizedWindowsPanels.empty() ||
            !modes.allWindowsListPanels.empty() || overlayWindowManager.isOverlayVisible();
-}
-
-// A hot key may find any mode on, the focus switcher too, which has more to take down.
-void MainController::leaveCurrentMode()
-{
-    exitCurrentMode();
-    if (isFocusSwitcherLeft()) {
-        dismissFocusSwitcher();
-    }
 }
 
 void MainController::releaseBlocker()

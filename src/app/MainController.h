@@ -60,7 +60,7 @@ public:
     // See LayoutOverlayMode; does nothing while the preferences are open.
     void showOverlay(const std::optional<ScreensModel>& screens, std::shared_ptr<WindowElementModel> element);
 
-    // Ends the layout overlay and the move/resize mode.
+    // Ends whatever mode is on.
     void exitCurrentMode();
 
     // Ends the focus switcher.
@@ -87,7 +87,6 @@ private:
 
     bool isLabelling() const;
     bool isFocusSwitcherLeft() const;
-    void leaveCurrentMode();
     void releaseBlocker();
 
     const Platform& platform;
