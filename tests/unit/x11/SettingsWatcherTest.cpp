@@ -61,6 +61,46 @@ TEST_F(SettingsWatcherTest, OtherFilesOfTheDirectoryDoNotCount)
     EXPECT_EQ(changes(), 0);
 }
 
+TEST_F(SettingsWatcherTest, ADirectoryPutInPlaceOfItsOwnIsWatchedAndTheOldOneNoMore)
+{
+    const fs::path aside = directory.path() / "aside";
+    fs::rename(path.parent_path(), aside);
+    EXPECT_EQ(changes(), 1);
+    directory.write("new/settings.plist", "second");
+    fs::rename(directory.path() / "new", path.parent_path());
+    EXPECT_EQ(changes(), 1);
+    write(path, "third");
+    EXPECT_EQ(changes(), 1);
+    write(aside / "settings.plist", "nobody's any more");
+    EXPECT_EQ(changes(), 0);
+}
+
+TEST_F(SettingsWatcherTest, ADirectoryThatIsRemovedAndMadeAnewIsWatched)
+{
+    fs::remove_all(path.parent_path());
+    changes();
+    fs::create_directory(path.parent_path());
+    EXPECT_EQ(changes(), 1);
+    write(path, "second");
+    EXPECT_EQ(changes(), 1);
+}
+
+TEST_F(SettingsWatcherTest, DirectoriesThatAreMadeOneAfterTheOtherAreFollowedDownToTheFile)
+{
+    const fs::path deep = directory.path() / "a/b/c/settings.plist";
+    int count = 0;
+    SettingsWatcher other{SettingsFile(deep), [&] { ++count; }};
+    for (const auto& level :
+         {deep.parent_path().parent_path().parent_path(), deep.parent_path().parent_path(), deep.parent_path()}) {
+        fs::create_directory(level);
+        loop.turn();
+    }
+    EXPECT_EQ(count, 3);
+    write(deep, "first");
+    loop.turn();
+    EXPECT_EQ(count, 4);
+}
+
 TEST_F(SettingsWatcherTest, ALinkPutInPlaceOfTheFileIsFollowed)
 {
     const fs::path target = directory.write("dotfiles/q.plist", "x");

@@ -7,6 +7,13 @@
 
 namespace quorvel::x11 {
 
+namespace {
+
+// What happens to a watched directory as a whole.
+constexpr std::uint32_t selfEvents = IN_DELETE_SELF | IN_MOVE_SELF;
+
+} // namespace
+
 SettingsWatcher::SettingsWatcher(SettingsFile file, std::function<void()> onChange)
     : file(std::move(file)), onChange(std::move(onChange)), inotify(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
 {
@@ -16,15 +23,21 @@ SettingsWatcher::SettingsWatcher(SettingsFile file, std::function<void()> onChan
     }
 }
 
+// Besides the directory that holds the file the one that holds that directory, or the nearest one that exists: the
+// directory itself may be put in place anew.
 void SettingsWatcher::watchDirectories()
 {
-    // A file that was just created is empty or half written, so only its closing counts; a link is complete at once.
-    constexpr std::uint32_t mask = IN_CLOSE_WRITE | IN_MOVED_TO | IN_CREATE | IN_ONLYDIR;
+    constexpr std::uint32_t mask = IN_CLOSE_WRITE | IN_MOVED_TO | IN_CREATE | selfEvents | IN_ONLYDIR;
     std::map<int, std::set<std::string>> current;
     for (const auto& path : file.chain()) {
-        const int watch = ::inotify_add_watch(inotify.get(), path.parent_path().c_str(), mask);
-        if (watch >= 0) {
-            current[watch].insert(path.filename().string());
+        for (auto entry = path; entry.has_relative_path(); entry = entry.parent_path()) {
+            const int watch = ::inotify_add_watch(inotify.get(), entry.parent_path().c_str(), mask);
+            if (watch >= 0) {
+                current[watch].insert(entry.filename().string());
+            }
+            if (watch >= 0 && entry != path) {
+                break;
+            }
         }
     }
     for (const auto& [watch, unused] : names) {
@@ -68,10 +81,17 @@ bool SettingsWatcher::concernsUs(int watch, std::uint32_t mask, const std::strin
         return true;
     }
     const auto directory = names.find(watch);
-    if (directory == names.end() || !directory->second.contains(name)) {
+    if (directory == names.end()) {
         return false;
     }
-    const bool isComplete = (mask & (IN_CLOSE_WRITE | IN_MOVED_TO)) != 0;
+    if ((mask & (selfEvents | IN_IGNORED)) != 0) {
+        return true;
+    }
+    if (!directory->second.contains(name)) {
+        return false;
+    }
+    // A file that was just created is empty or half written, so only its closing counts; a link is complete at once.
+    const bool isComplete = (mask & (IN_CLOSE_WRITE | IN_MOVED_TO | IN_ISDIR)) != 0;
     return isComplete || file.chain().size() > 1;
 }
 

@@ -11,8 +11,8 @@
 
 namespace quorvel::x11 {
 
-// Tells when another program may have written the settings file, be it in place, by putting a new file there, or by
-// changing a link that leads to it. Without inotify it never does.
+// Tells when another program may have written the settings file, be it in place, by putting a new file or a new
+// directory there, or by changing a link that leads to it. Without inotify it never does.
 class SettingsWatcher final : public LoopSource {
 public:
     // The handler runs from the main loop.
