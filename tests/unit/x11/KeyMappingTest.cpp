@@ -160,7 +160,6 @@ TEST(KeyMapping, ModifiersAreFoundWhereverTheMapHasPutThem)
 TEST(KeyMapping, EveryCombinationOfTheLocksIsNamed)
 {
     EXPECT_THAT(mapping("us").lockCombinations(), UnorderedElementsAre(0, capsLock, numLock, capsLock | numLock));
-    EXPECT_EQ(mapping("us").lockBits(), capsLock | numLock);
 }
 
 TEST(KeyMapping, ModifiersLocksAndLayoutSwitchesAreNoKeyDowns)

@@ -41,10 +41,6 @@ public:
     // The bits of a mask of hotKeyModifiers.
     KeyState state(std::uint32_t modifiers) const;
 
-    // The bits that stand for hotKeyModifiers, and those of Caps Lock and Num Lock.
-    KeyState commandBits() const { return shiftBit | controlBit | optionBit | commandBit; }
-    KeyState lockBits() const { return capsLockBit | numLockBit; }
-
     // The state without modifiers in the layout of that number.
     static KeyState layoutState(unsigned layout);
 
