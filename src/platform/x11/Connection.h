@@ -23,8 +23,8 @@ namespace quorvel::x11 {
 // The program's one connection to the X server. Main thread only.
 //
 // Requests are sent with the plain xcb functions on xcb(); they leave when the loop is about to wait, or at flush().
-// Errors of unchecked requests are reported in one line on standard error each, unless they only say that a window
-// has vanished.
+// Errors of unchecked requests are reported in one line on standard error each, unless they are of the kinds that a
+// window causes by vanishing (see isExpected()).
 class Connection {
 public:
     using EventHandler = std::function<void(const xcb_generic_event_t&)>;

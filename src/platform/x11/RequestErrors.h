@@ -7,7 +7,8 @@
 
 namespace quorvel::x11 {
 
-// A window that another program closes between two requests makes the second one fail. That is no fault of anyone's.
+// A window that another program closes, hides or moves between two requests makes the second one fail with BadWindow,
+// BadDrawable or BadMatch. That is no fault of anyone's; nothing tells it from other causes of these three.
 bool isExpected(const xcb_generic_error_t& error);
 
 struct ExtensionName {

@@ -11,7 +11,8 @@ namespace quorvel::x11 {
 class Connection;
 
 // A property of the root window, 32-bit items, that is asked for again as soon as it changes; so that whoever needs it
-// later finds the answer there and does not wait. An event that comes after the change finds the changed value.
+// later finds the answer there. Only who needs it while that very event is handled waits for it. An event that comes
+// after the change finds the changed value.
 class TrackedProperty {
 public:
     TrackedProperty(Connection& connection, xcb_atom_t name);

@@ -183,10 +183,8 @@ std::vector<Monitor> X11Screens::readMonitors() const
 std::vector<RootRect> X11Screens::readWorkAreas(std::size_t monitorCount)
 {
     const auto desktop = rootProperties.currentDesktop.value();
-    auto areas = rectangles(cardinals(requestProperty(connection.xcb(), connection.root(),
-                                                      connection.atom(fmt::format("_GTK_WORKAREAS_D{}", desktop)))
-                                          .take()
-                                          .get()));
+    gtkWorkareas = connection.atom(fmt::format("_GTK_WORKAREAS_D{}", desktop));
+    auto areas = rectangles(cardinals(requestProperty(connection.xcb(), connection.root(), gtkWorkareas).take().get()));
     if (areas.empty() && monitorCount == 1 &&
         contains(rootProperties.supported.values(), connection.atoms().netWorkarea)) {
         const auto ofDesktops = rectangles(rootProperties.workarea.values());
@@ -195,11 +193,6 @@ std::vector<RootRect> X11Screens::readWorkAreas(std::size_t monitorCount)
         }
     }
     return areas;
-}
-
-xcb_atom_t X11Screens::gtkWorkareas()
-{
-    return connection.atom(fmt::format("_GTK_WORKAREAS_D{}", rootProperties.currentDesktop.value()));
 }
 
 void X11Screens::invalidate()
@@ -229,7 +222,7 @@ void X11Screens::handlePropertyChange(const xcb_property_notify_event_t& event)
     const bool concernsPanel = event.atom == atoms.netWmStrut || event.atom == atoms.netWmStrutPartial;
     const bool concernsDesktop =
         event.window == connection.root() && contains(std::array{atoms.netClientList, atoms.netCurrentDesktop,
-                                                                 atoms.netWorkarea, atoms.netSupported, gtkWorkareas()},
+                                                                 atoms.netWorkarea, atoms.netSupported, gtkWorkareas},
                                                       event.atom);
     if (concernsPanel || concernsDesktop) {
         invalidate();

@@ -37,7 +37,6 @@ private:
     ScreenLayout readLayout();
     std::vector<Monitor> readMonitors() const;
     std::vector<RootRect> readWorkAreas(std::size_t monitorCount);
-    xcb_atom_t gtkWorkareas();
     RootPoint focusPoint();
     void watchRoot();
     void watchPanels();
@@ -52,6 +51,7 @@ private:
     StrutReader struts;
     Size rootSize;
     std::optional<ScreenLayout> layout;
+    xcb_atom_t gtkWorkareas = XCB_ATOM_NONE; // of the desktop that was current when the layout was read
     bool isRefreshDue = false;
     std::vector<Subscription> subscriptions;
     WeakGuard weakGuard;

@@ -19,14 +19,15 @@ class WindowReader {
 public:
     explicit WindowReader(Connection& connection);
 
-    // One entry for each window, in their order; absent for those that vanished. Costs one round trip, and up to three
-    // more where some window's frame is not described by properties.
+    // One entry for each window, in their order; absent for those that vanished. Costs one round trip; where some
+    // window's frame is not described by properties, one to measure it and one for each level between it and the root.
     std::vector<std::optional<WindowSnapshot>> read(std::span<const xcb_window_t> windows);
 
     // The children of the root, bottom to top.
     std::vector<xcb_window_t> topLevels();
 
-    // For each window the ancestor that is a child of the root, or XCB_NONE. `parents` are the windows' parents.
+    // For each window the ancestor that is a child of the root: itself if it is one, and the last that was found if
+    // they vanish meanwhile. `parents` are the windows' parents.
     std::vector<xcb_window_t> topLevelAncestors(std::span<const xcb_window_t> windows,
                                                 std::span<const xcb_window_t> parents);
 
