@@ -45,6 +45,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
       toolkit(x11::ToolkitModule::standardFile(), {}),
       statusBar(*display.connection, bundle, toolkit),
       alerts(bundle, toolkit),
+      feedUpdates(FeedUpdates::make({loop, alerts, windows.workspace, dates, bundle}, reportProblem)),
       platform{
           .log = log,
           .mainQueue = loop,
@@ -66,6 +67,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
           .statusBar = statusBar,
           .permissions = permissions,
           .alerts = alerts,
+          .updater = feedUpdates ? &feedUpdates->updater() : nullptr,
           .focusesExactWindow = true,
       },
       endingSignals(subscribeToEndingSignals()),

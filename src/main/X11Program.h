@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
 #include "app/QuorvelApp.h"
 #include "base/Subscription.h"
+#include "main/FeedUpdates.h"
 #include "main/X11Display.h"
 #include "platform/LocalNotificationCenter.h"
 #include "platform/Platform.h"
@@ -63,6 +65,7 @@ private:
     x11::ToolkitModule toolkit;
     x11::X11StatusBar statusBar;
     x11::X11Alerts alerts;
+    std::unique_ptr<FeedUpdates> feedUpdates; // null where this build has no feed
 
     Platform platform;
     std::vector<Subscription> endingSignals; // first, so that a program that is still starting ends in good order, too
