@@ -56,9 +56,9 @@ xcb_window_t Activation::frontWindow(ProcessId process)
     // The best is one that can be seen, then one of another desktop, then a minimized one; of equals the frontmost.
     xcb_window_t best = XCB_NONE;
     int bestRank = 0;
-    for (const auto window : windows.frontToBack()) {
+    for (const auto window : windows.frontToBack(process)) {
         const auto* const snapshot = windows.find(window);
-        if (snapshot == nullptr || snapshot->identity.process != process || !isForPeople(*snapshot)) {
+        if (snapshot == nullptr || !isForPeople(*snapshot)) {
             continue;
         }
         const int rank = snapshot->isHidden ? 1 : windows.isOnCurrentDesktop(*snapshot) ? 3 : 2;

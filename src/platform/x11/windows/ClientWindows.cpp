@@ -1,6 +1,7 @@
 #include "platform/x11/windows/ClientWindows.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include "platform/x11/Connection.h"
@@ -63,12 +64,25 @@ void ClientWindows::noteChange(xcb_window_t window)
     }
 }
 
-// The window manager's own list may lag behind what is on the screen; the order of the frames never does.
 std::vector<xcb_window_t> ClientWindows::frontToBack()
+{
+    readOrder();
+    return *order;
+}
+
+std::vector<xcb_window_t> ClientWindows::frontToBack(ProcessId process)
+{
+    readOrder();
+    const auto windows = orderByProcess.find(process);
+    return windows != orderByProcess.end() ? windows->second : std::vector<xcb_window_t>();
+}
+
+// The window manager's own list may lag behind what is on the screen; the order of the frames never does.
+void ClientWindows::readOrder()
 {
     beginTurn();
     if (order) {
-        return *order;
+        return;
     }
     auto windows = rootProperties.clientListStacking.values();
     if (windows.empty()) {
@@ -91,10 +105,10 @@ std::vector<xcb_window_t> ClientWindows::frontToBack()
     }
     std::ranges::stable_sort(ranked, {}, &std::pair<std::size_t, xcb_window_t>::first);
     order.emplace();
-    for (const auto& [height, window] : ranked) {
-        order->insert(order->begin(), window);
+    for (const auto& [height, window] : std::views::reverse(ranked)) {
+        order->push_back(window);
+        orderByProcess[snapshots[window]->identity.process].push_back(window);
     }
-    return *order;
 }
 
 xcb_window_t ClientWindows::activeWindow()
@@ -113,6 +127,7 @@ void ClientWindows::beginTurn()
         turn = connection.turn();
         std::erase_if(snapshots, [this](const auto& entry) { return !isKnown(entry.first, entry.second); });
         order.reset();
+        orderByProcess.clear();
     }
 }
 

@@ -34,6 +34,9 @@ public:
     // All that have not vanished, front to back.
     std::vector<xcb_window_t> frontToBack();
 
+    // Those of one process, front to back.
+    std::vector<xcb_window_t> frontToBack(ProcessId process);
+
     // The window with the keyboard focus, as of the last event that was handled; or XCB_NONE.
     xcb_window_t activeWindow();
 
@@ -51,6 +54,7 @@ private:
     void noteChange(xcb_window_t window);
     void unfollow(xcb_window_t window);
     void read(const std::vector<xcb_window_t>& windows);
+    void readOrder();
 
     Connection& connection;
     RootProperties& rootProperties;
@@ -58,6 +62,7 @@ private:
     std::unordered_map<xcb_window_t, std::optional<WindowSnapshot>> snapshots;
     std::unordered_map<xcb_window_t, Followed> followed;
     std::optional<std::vector<xcb_window_t>> order;
+    std::unordered_map<ProcessId, std::vector<xcb_window_t>> orderByProcess; // filled with `order`
     std::uint64_t turn = 0;
     std::vector<Subscription> windowChanges;
     WeakGuard weakGuard;

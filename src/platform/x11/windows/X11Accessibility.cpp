@@ -132,7 +132,7 @@ std::expected<AxValue, AxError> X11Accessibility::readApplication(ProcessId proc
         if (snapshot != nullptr && snapshot->identity.process == process) {
             return std::make_shared<X11AxElement>(process, active);
         }
-        const auto own = windowsOf(process);
+        const auto own = windows.frontToBack(process);
         if (own.empty()) {
             return std::unexpected(axErrors::noValue);
         }
@@ -140,7 +140,7 @@ std::expected<AxValue, AxError> X11Accessibility::readApplication(ProcessId proc
     }
     if (name == axNames::windows) {
         std::vector<AxElementRef> elements;
-        for (const auto window : windowsOf(process)) {
+        for (const auto window : windows.frontToBack(process)) {
             elements.push_back(std::make_shared<X11AxElement>(process, window));
         }
         return elements;
@@ -190,17 +190,6 @@ std::expected<void, AxError> X11Accessibility::write(const WindowTarget& target,
         return std::unexpected(isSettable ? axErrors::illegalArgument : axErrors::attributeUnsupported);
     }
     return {};
-}
-
-// Front to back.
-std::vector<xcb_window_t> X11Accessibility::windowsOf(ProcessId process)
-{
-    auto result = windows.frontToBack();
-    std::erase_if(result, [&](xcb_window_t window) {
-        const auto* const snapshot = windows.find(window);
-        return snapshot == nullptr || snapshot->identity.process != process;
-    });
-    return result;
 }
 
 } // namespace quorvel::x11

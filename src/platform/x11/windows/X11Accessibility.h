@@ -38,7 +38,6 @@ private:
     std::expected<AxValue, AxError> readApplication(ProcessId process, std::string_view name);
     std::expected<AxValue, AxError> readWindow(const WindowTarget& target, std::string_view name);
     std::expected<void, AxError> write(const WindowTarget& target, std::string_view name, const AxValue& value);
-    std::vector<xcb_window_t> windowsOf(ProcessId process);
 
     ClientWindows& windows;
     WindowManager& windowManager;

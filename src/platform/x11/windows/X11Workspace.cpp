@@ -66,29 +66,14 @@ std::optional<RunningApplication> X11Workspace::frontmostApplication()
 
 std::optional<RunningApplication> X11Workspace::runningApplication(ProcessId process)
 {
-    const auto applications = runningApplications();
+    const auto applications = describeAll(windows.frontToBack(process));
     const auto found = std::ranges::find(applications, process, &RunningApplication::process);
     return found != applications.end() ? std::optional(*found) : std::nullopt;
 }
 
 std::vector<RunningApplication> X11Workspace::runningApplications()
 {
-    std::vector<WindowIdentity> identities{{ownProcess(), WindowKind::normal, {}, {}}};
-    for (const auto window : windows.frontToBack()) {
-        if (const auto* const snapshot = windows.find(window)) {
-            identities.push_back(snapshot->identity);
-        }
-    }
-    // A process with windows of both kinds is described by one that is not part of the desktop.
-    std::ranges::stable_partition(identities, [](const auto& each) { return !isPartOfTheDesktop(each.kind); });
-    std::vector<RunningApplication> applications;
-    std::set<ProcessId> known;
-    for (const auto& identity : identities) {
-        if (known.insert(identity.process).second) {
-            applications.push_back(describe(identity));
-        }
-    }
-    return applications;
+    return describeAll(windows.frontToBack());
 }
 
 void X11Workspace::activate(ProcessId process)
@@ -129,6 +114,27 @@ void X11Workspace::relaunch(std::function<void()> completion)
 void X11Workspace::terminate()
 {
     lifecycle.terminate();
+}
+
+// This program, and the processes of these windows.
+std::vector<RunningApplication> X11Workspace::describeAll(const std::vector<xcb_window_t>& clients)
+{
+    std::vector<WindowIdentity> identities{{ownProcess(), WindowKind::normal, {}, {}}};
+    for (const auto window : clients) {
+        if (const auto* const snapshot = windows.find(window)) {
+            identities.push_back(snapshot->identity);
+        }
+    }
+    // A process with windows of both kinds is described by one that is not part of the desktop.
+    std::ranges::stable_partition(identities, [](const auto& each) { return !isPartOfTheDesktop(each.kind); });
+    std::vector<RunningApplication> applications;
+    std::set<ProcessId> known;
+    for (const auto& identity : identities) {
+        if (known.insert(identity.process).second) {
+            applications.push_back(describe(identity));
+        }
+    }
+    return applications;
 }
 
 RunningApplication X11Workspace::describe(const WindowIdentity& identity)

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <xcb/xcb.h>
+
 #include "base/WeakGuard.h"
 #include "platform/Workspace.h"
 #include "platform/x11/windows/DesktopEntries.h"
@@ -41,6 +43,7 @@ public:
     void terminate() override;
 
 private:
+    std::vector<RunningApplication> describeAll(const std::vector<xcb_window_t>& clients);
     RunningApplication describe(const WindowIdentity& identity);
     std::string nameOf(const WindowIdentity& identity);
 
