@@ -70,6 +70,18 @@ void RunningQuorvel::pressHotKey()
     display.keyboard.tap(hotKey().modifiers, hotKey().keysym);
 }
 
+const xtest::KeyCombination& RunningQuorvel::switcherHotKey()
+{
+    static const xtest::KeyCombination combination{
+        {xtest::KeyInjector::Modifier::command, xtest::KeyInjector::Modifier::shift}, XKB_KEY_f};
+    return combination;
+}
+
+void RunningQuorvel::pressSwitcherHotKey()
+{
+    display.keyboard.tap(switcherHotKey().modifiers, switcherHotKey().keysym);
+}
+
 std::vector<PixelRect> RunningQuorvel::overlayRects()
 {
     std::vector<PixelRect> rects;
@@ -107,6 +119,11 @@ void RunningQuorvel::waitForFrames(const UnitFrames& frames, const PixelRect& ar
 void RunningQuorvel::waitForNoOverlay()
 {
     display.client.waitFor("the overlay to go", [&] { return overlayRects().empty(); });
+}
+
+void RunningQuorvel::waitForOverlayWindows(std::size_t count)
+{
+    display.client.waitFor(fmt::format("{} overlay windows", count), [&] { return overlayRects().size() == count; });
 }
 
 PixelRect RunningQuorvel::waitUntilPlaced(xcb_window_t window, const PixelRect& expected)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <csignal>
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -25,12 +26,19 @@ public:
     static const xtest::KeyCombination& hotKey();
     void pressHotKey();
 
-    // The program's windows that are on the screen: layout frames and the legend.
+    // The combination that shows and hides the focus switcher: Command-Shift-F.
+    static const xtest::KeyCombination& switcherHotKey();
+    void pressSwitcherHotKey();
+
+    // The program's windows that are on the screen: frames, labels, the legend and lists.
     std::vector<xtest::PixelRect> overlayRects();
 
     // Waits until exactly these frames (and perhaps the legend) are on the screen.
     void waitForFrames(const UnitFrames& frames, const xtest::PixelRect& area);
     void waitForNoOverlay();
+
+    // Waits until exactly that many of the program's windows are on the screen.
+    void waitForOverlayWindows(std::size_t count);
 
     // Waits until the window's outer rectangle is the frame's. Windows that grow in steps may stay below it by less
     // than a step. Returns the rectangle.
