@@ -107,6 +107,14 @@ void Desk::openTray()
                        {}});
 }
 
+void Desk::minimize(xtest::ClientProcess& program)
+{
+    constexpr std::uint32_t iconicState = 3;
+    display.client.sendToWindowManager(program.window(), "WM_CHANGE_STATE", {iconicState});
+    display.client.waitFor("a window to be minimized",
+                           [&] { return display.client.hasState(program.window(), "_NET_WM_STATE_HIDDEN"); });
+}
+
 PixelRect Desk::workArea() const
 {
     return {first.x, first.y + barHeight, first.width, first.height - barHeight};

@@ -31,6 +31,8 @@ public:
     // Starts a tray in the bar, where programs show their icons.
     void openTray();
 
+    void minimize(xtest::ClientProcess& program);
+
     // Where windows may be on the first monitor.
     xtest::PixelRect workArea() const;
 

@@ -125,7 +125,9 @@ int main(int argc, char** argv)
     QApplication::setPalette(palette);
 
     QWidget window;
-    if (QApplication::arguments().value(1) == "notes") {
+    const bool isNotes = QApplication::arguments().value(1) == "notes";
+    QApplication::setApplicationName(isNotes ? "Notes" : "Planner");
+    if (isNotes) {
         showNotes(window);
     } else {
         showPlanner(window);

@@ -12,11 +12,26 @@ namespace {
 using xtest::PixelRect;
 
 constexpr auto hotKeyName = "Command-Shift-O";
+constexpr auto switcherKeyName = "Command-Shift-F";
+
+// The windows stay visible under the focus switcher's frames.
+constexpr auto settings = R"(<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0"><dict>
+  <key>wsBackgroundColor</key><string>#00D4FF1F</string>
+  <key>wsTextBackgroundColor</key><string>#14191FE6</string>
+</dict></plist>
+)";
+
+xtest::TemporaryDirectory& withSettings(xtest::TemporaryDirectory& configuration)
+{
+    configuration.write("quorvel/settings.plist", settings);
+    return configuration;
+}
 
 } // namespace
 
 Tour::Tour(const std::filesystem::path& program, const std::filesystem::path& pictures)
-    : pictures(pictures), quorvel(desk.display, program, configuration)
+    : pictures(pictures), quorvel(desk.display, program, withSettings(configuration))
 {
     desk.display.client.watchPainting();
     desk.openTray();
@@ -29,6 +44,7 @@ void Tour::perform()
         showAndPlace();
         stepThroughLayouts();
         jumpByDigit();
+        switchFocus();
         useSecondMonitor();
         cancel();
         finish();
@@ -72,18 +88,36 @@ void Tour::jumpByDigit()
     takePicture("5-placed", desk.firstMonitor());
 }
 
+void Tour::switchFocus()
+{
+    auto& keyboard = desk.display.keyboard;
+    expectWindows(switcherKeyName, "put letters on the windows", 2 * 3, [&] { quorvel.pressSwitcherHotKey(); });
+    takePicture("6-letters", desk.firstMonitor());
+    expectActive("C", "go to the letter", desk.letter(), [&] { keyboard.tap(XKB_KEY_c); });
+    desk.minimize(desk.terminal());
+    expectWindows(switcherKeyName, "put letters on the windows", 2 * 2, [&] { quorvel.pressSwitcherHotKey(); });
+    expectWindows("Tab, M", "show both lists", 2 * 2 + 2, [&] {
+        keyboard.tap(XKB_KEY_Tab);
+        keyboard.tap(XKB_KEY_m);
+    });
+    takePicture("7-lists", desk.firstMonitor());
+    expectActive("C", "restore the terminal", desk.terminal(), [&] { keyboard.tap(XKB_KEY_c); });
+    expectWindows(switcherKeyName, "put letters on the windows", 2 * 3, [&] { quorvel.pressSwitcherHotKey(); });
+    expectActive("C", "go to the planner", desk.planner(), [&] { keyboard.tap(XKB_KEY_c); });
+}
+
 void Tour::useSecondMonitor()
 {
     desk.switchSecondMonitorOn();
     expectFrames(hotKeyName, "show layout 6 again", e2e::fourTiles, desk.workArea(), [&] { quorvel.pressHotKey(); });
     expectFrames("Right", "show it on monitor 2", e2e::fourTiles, desk.secondMonitor(),
                  [&] { desk.display.keyboard.tap(XKB_KEY_Right); });
-    takePicture("6-second-monitor", desk.bothMonitors());
+    takePicture("8-second-monitor", desk.bothMonitors());
     expectFrames("2", "jump to layout 2 there", e2e::centered, desk.secondMonitor(),
                  [&] { desk.display.keyboard.tap(XKB_KEY_2); });
     expectPlacement("A", "place the planner there", desk.planner().window(),
                     e2e::centered[0].within(desk.secondMonitor()), [&] { desk.display.keyboard.tap(XKB_KEY_a); });
-    takePicture("7-placed-on-second-monitor", desk.bothMonitors());
+    takePicture("9-placed-on-second-monitor", desk.bothMonitors());
 }
 
 void Tour::cancel()
@@ -139,6 +173,30 @@ void Tour::expectPlacement(const std::string& key, const std::string& effect, xc
         const auto actual = quorvel.waitUntilPlaced(window, expected);
         quorvel.waitUntilIdle();
         return describe(actual);
+    });
+}
+
+void Tour::expectActive(const std::string& key, const std::string& effect, xtest::ClientProcess& program,
+                        const std::function<void()>& keys)
+{
+    auto& client = desk.display.client;
+    const auto text = fmt::format("window {:#x} has the focus", program.window());
+    step(key, effect, text, [&] {
+        keys();
+        client.waitFor("a window to become active", [&] { return client.activeWindow() == program.window(); });
+        quorvel.waitUntilIdle();
+        return text;
+    });
+}
+
+void Tour::expectWindows(const std::string& key, const std::string& effect, std::size_t count,
+                         const std::function<void()>& keys)
+{
+    const auto text = fmt::format("{} overlay windows", count);
+    step(key, effect, text, [&] {
+        keys();
+        quorvel.waitForOverlayWindows(count);
+        return text;
     });
 }
 

@@ -24,6 +24,7 @@ private:
     void showAndPlace();
     void stepThroughLayouts();
     void jumpByDigit();
+    void switchFocus();
     void useSecondMonitor();
     void cancel();
     void finish();
@@ -36,6 +37,11 @@ private:
                       const xtest::PixelRect& area, const std::function<void()>& keys);
     void expectPlacement(const std::string& key, const std::string& effect, xcb_window_t window,
                          const xtest::PixelRect& expected, const std::function<void()>& keys);
+
+    void expectActive(const std::string& key, const std::string& effect, xtest::ClientProcess& program,
+                      const std::function<void()>& keys);
+    void expectWindows(const std::string& key, const std::string& effect, std::size_t count,
+                       const std::function<void()>& keys);
 
     // Once the picture no longer changes: programs paint when they like.
     void takePicture(const std::string& name, const xtest::PixelRect& part);
