@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "e2e/UnitFrame.h"
+#include "e2e/DefaultLayouts.h"
 #include "support/ProgramUnderTest.h"
 #include "support/TestDisplay.h"
 

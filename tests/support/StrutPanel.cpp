@@ -1,5 +1,7 @@
 #include "support/StrutPanel.h"
 
+#include <algorithm>
+
 namespace quorvel::xtest {
 namespace {
 
@@ -18,6 +20,37 @@ PixelRect panelRect(const PixelRect& monitor, Side side, int thickness)
     return {};
 }
 
+PixelRect besidePanel(const PixelRect& monitor, Side side, int thickness)
+{
+    switch (side) {
+    case Side::left:
+        return {monitor.x + thickness, monitor.y, monitor.width - thickness, monitor.height};
+    case Side::right:
+        return {monitor.x, monitor.y, monitor.width - thickness, monitor.height};
+    case Side::top:
+        return {monitor.x, monitor.y + thickness, monitor.width, monitor.height - thickness};
+    case Side::bottom:
+        return {monitor.x, monitor.y, monitor.width, monitor.height - thickness};
+    }
+    return {};
+}
+
+// How far the side lies outwards on the root.
+int reach(const PixelRect& monitor, Side side)
+{
+    switch (side) {
+    case Side::left:
+        return -monitor.x;
+    case Side::right:
+        return monitor.x + monitor.width;
+    case Side::top:
+        return -monitor.y;
+    case Side::bottom:
+        return monitor.y + monitor.height;
+    }
+    return 0;
+}
+
 TestWindow::Options optionsFor(const PixelRect& place)
 {
     TestWindow::Options options;
@@ -32,9 +65,33 @@ TestWindow::Options optionsFor(const PixelRect& place)
 
 } // namespace
 
+std::ostream& operator<<(std::ostream& stream, Side side)
+{
+    switch (side) {
+    case Side::left:
+        return stream << "left";
+    case Side::right:
+        return stream << "right";
+    case Side::top:
+        return stream << "top";
+    case Side::bottom:
+        return stream << "bottom";
+    }
+    return stream;
+}
+
+std::size_t outermost(const std::vector<Monitor>& monitors, Side side)
+{
+    const auto found =
+        std::ranges::max_element(monitors, {}, [side](const Monitor& monitor) { return reach(monitor.rect, side); });
+    return static_cast<std::size_t>(found - monitors.begin());
+}
+
 StrutPanel::StrutPanel(const XServer& server, const PixelRect& monitor, Side side, int thickness,
                        Reservation reservation)
-    : place(panelRect(monitor, side, thickness)), window(server, optionsFor(place))
+    : place(panelRect(monitor, side, thickness)),
+      rest(besidePanel(monitor, side, thickness)),
+      window(server, optionsFor(place))
 {
     // left, right, top, bottom; then start and end along the edge for each in the same order
     std::vector<std::uint32_t> strut(12, 0);

@@ -5,6 +5,7 @@
 #include "support/Grabs.h"
 #include "support/KeyInjector.h"
 #include "support/Monitors.h"
+#include "support/Outputs.h"
 #include "support/WindowManagerProcess.h"
 #include "support/XClient.h"
 #include "support/XServer.h"
@@ -27,10 +28,21 @@ public:
     // The one that was started.
     WindowManagerProcess& windowManager() { return *managerProcess; }
 
+    // Replaces the monitors: outputs where the server has them, parts of the one output otherwise.
+    void arrange(const std::vector<Monitor>& wanted)
+    {
+        if (server.kind() == XServer::Kind::dummyOutputs) {
+            outputs.arrange(wanted);
+        } else {
+            monitors.arrange(wanted);
+        }
+    }
+
     XServer server;
     XClient client{server};
     KeyInjector keyboard{client};
     Monitors monitors{client};
+    Outputs outputs{server, client};
     Grabs grabs{client};
 
 private:

@@ -52,11 +52,12 @@ void writeConfiguration(WindowManager manager, const TemporaryDirectory& home)
     switch (manager) {
     case WindowManager::icewm:
         // Otherwise it takes the Super key for itself, and no other client ever sees a combination with it.
-        home.write(".icewm/preferences", "Win95Keys=0\n");
+        home.write(".icewm/preferences", "Win95Keys=0\nShowTaskBar=0\n");
         break;
     case WindowManager::fluxbox:
         home.write(".fluxbox/keys", "OnTitlebar Mouse1 :StartMoving\n");
-        home.write(".fluxbox/init", "session.screen0.rootCommand: true\nsession.styleOverlay: /dev/null\n");
+        home.write(".fluxbox/init", "session.screen0.rootCommand: true\nsession.screen0.toolbar.visible: "
+                                    "false\nsession.styleOverlay: /dev/null\n");
         break;
     case WindowManager::i3:
         home.write(".config/i3/config", i3Configuration);

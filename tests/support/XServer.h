@@ -36,6 +36,7 @@ public:
 
     // Such as ":87".
     const std::string& display() const { return displayName; }
+    Kind kind() const { return options.kind; }
     int width() const { return options.width; }
     int height() const { return options.height; }
 

@@ -1,93 +1,97 @@
-#include <gtest/gtest.h>
+#include <algorithm>
+#include <array>
 
-#include "x11/windows/AdapterDisplay.h"
+#include "support/StrutPanel.h"
+#include "x11/windows/PlacementDesktop.h"
 
 namespace quorvel::x11 {
 namespace {
 
 using xtest::ClientProcess;
-using xtest::PixelRect;
-using Manager = xtest::WindowManager;
+using xtest::MonitorArrangement;
+using xtest::Side;
+using xtest::UnitFrame;
 
-enum class State { normal, maximized, fullscreen };
+// Each frame meets each state in turn, for their numbers have no common divisor.
+constexpr std::array frames = {UnitFrame{0, 0, 1, 1}, UnitFrame{0.5, 0, 1, 0.5}, UnitFrame{0, 0, 0.5, 1},
+                               UnitFrame{0.125, 0.1, 0.875, 0.9}, UnitFrame{1.0 / 3, 0, 1, 2.0 / 3}};
+constexpr std::array states = {WindowState::normal, WindowState::maximized, WindowState::fullscreen};
+constexpr std::array sides = {Side::left, Side::top, Side::right, Side::bottom};
+constexpr int panelThickness = 40;
 
-constexpr AxRect target{300, 200, 800, 600};
-constexpr PixelRect targetPixels{300, 200, 800, 600};
-
-// The largest step of size that any program here has.
-constexpr int coarsestIncrement = 16;
-
-// Everything runs on one server with one window manager, for these take long to start.
-class Placing : public testing::TestWithParam<Manager> {
+class Placing : public PlacementDesktop {
 protected:
-    void SetUp() override
+    static std::vector<MonitorArrangement> arrangements()
     {
-        if (!xtest::WindowManagerProcess::isInstalled(GetParam())) {
-            GTEST_SKIP() << nameOf(GetParam()) << " is not installed";
-        }
-        desktop = std::make_unique<AdapterDisplay>();
-        desktop->display.startWindowManager(GetParam());
+        const auto& all = xtest::monitorArrangements();
+        return hasOutputs() ? all : std::vector{all.front()};
     }
 
-    xtest::XClient& client() { return desktop->client(); }
-
-    void bring(xcb_window_t window, State state)
+    void placeOnEachMonitorWithAPanel(const MonitorArrangement& arrangement, Side side)
     {
-        if (state == State::maximized && GetParam() != Manager::i3) { // which has no such state
-            client().sendToWindowManager(window, "_NET_WM_STATE",
-                                         {1, client().atom("_NET_WM_STATE_MAXIMIZED_VERT"),
-                                          client().atom("_NET_WM_STATE_MAXIMIZED_HORZ"), 2, 0});
-            desktop->waitFor("a maximized window", [&] {
-                const auto outer = client().outerRect(window);
-                return client().hasState(window, "_NET_WM_STATE_MAXIMIZED_VERT") && outer && outer->width > 1800;
-            });
-        } else if (state == State::fullscreen) {
-            client().sendToWindowManager(window, "_NET_WM_STATE",
-                                         {1, client().atom("_NET_WM_STATE_FULLSCREEN"), XCB_NONE, 2, 0});
-            desktop->waitFor("a full-screen window", [&] {
-                return client().hasState(window, "_NET_WM_STATE_FULLSCREEN") &&
-                       client().outerRect(window) == PixelRect{0, 0, 1920, 1080};
-            });
+        SCOPED_TRACE(testing::Message() << "panel at the " << side);
+        const auto holder = xtest::outermost(arrangement.monitors, side);
+        const auto reservation = arrangement.monitors.size() == 1 ? xtest::StrutPanel::Reservation::plain
+                                                                  : xtest::StrutPanel::Reservation::partial;
+        const xtest::StrutPanel panel(desktop->display.server, arrangement.monitors[holder].rect, side, panelThickness,
+                                      reservation);
+        for (std::size_t i = 0; i < arrangement.monitors.size(); ++i) {
+            placeInNextWay(arrangement.monitors[i].name,
+                           i == holder ? panel.remainder() : arrangement.monitors[i].rect);
         }
     }
 
-    // A program that sizes its window in steps gets what fits into the target.
-    void expectOnTarget(ClientProcess::Kind kind, xcb_window_t window)
+    void placeInNextWay(const std::string& monitor, const xtest::PixelRect& area)
     {
-        const auto outer = client().outerRect(window).value_or(PixelRect{});
-        EXPECT_EQ(outer.x, targetPixels.x);
-        EXPECT_EQ(outer.y, targetPixels.y);
-        const int slack = kind == ClientProcess::Kind::xterm ? coarsestIncrement : 1;
-        EXPECT_LE(outer.width, targetPixels.width);
-        EXPECT_GT(outer.width, targetPixels.width - slack);
-        EXPECT_LE(outer.height, targetPixels.height);
-        EXPECT_GT(outer.height, targetPixels.height - slack);
-        EXPECT_FALSE(client().hasState(window, "_NET_WM_STATE_FULLSCREEN"));
-        EXPECT_FALSE(client().hasState(window, "_NET_WM_STATE_MAXIMIZED_VERT"));
+        const auto state = states[turn % states.size()];
+        const auto& frame = frames[turn % frames.size()];
+        ++turn;
+        SCOPED_TRACE(testing::Message() << "monitor " << monitor << ", from state " << state);
+        bring(state);
+        place(frame, area);
+        expectOn(frame.within(area));
     }
 
-    std::unique_ptr<AdapterDisplay> desktop;
+    std::size_t turn = 0;
 };
 
-TEST_P(Placing, EveryProgramLandsOnItsTargetFromEveryState)
+TEST_P(Placing, PutsTheWindowOnTheDrawnFrameOnEachMonitorOfEachArrangement)
 {
-    for (const auto kind : ClientProcess::allKinds()) {
-        if (!ClientProcess::isInstalled(kind)) {
-            continue;
+    open();
+    for (const auto& arrangement : arrangements()) {
+        SCOPED_TRACE(arrangement.name);
+        desktop->display.arrange(arrangement.monitors);
+        for (const auto& monitor : arrangement.monitors) {
+            placeInNextWay(monitor.name, monitor.rect);
         }
-        ClientProcess program(desktop->display.server, client(), kind);
-        for (const auto state : {State::normal, State::maximized, State::fullscreen}) {
-            SCOPED_TRACE(ClientProcess::nameOf(kind) + " from state " + std::to_string(static_cast<int>(state)));
-            bring(program.window(), state);
-            desktop->place(AdapterDisplay::elementOf(program), target);
-            expectOnTarget(kind, program.window());
-        }
-        program.kill();
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, Placing, testing::ValuesIn(xtest::allWindowManagers()),
-                         [](const auto& parameter) { return nameOf(parameter.param); });
+INSTANTIATE_TEST_SUITE_P(Every, Placing,
+                         testing::Combine(testing::ValuesIn(xtest::allWindowManagers()),
+                                          testing::ValuesIn(ClientProcess::allKinds())),
+                         PlacementDesktop::name);
+
+class PlacingBesidePanels : public Placing {};
+
+TEST_P(PlacingBesidePanels, PutsTheWindowOnTheDrawnFrameWithAPanelAtEachSide)
+{
+    open();
+    for (const auto& arrangement : arrangements()) {
+        SCOPED_TRACE(arrangement.name);
+        desktop->display.arrange(arrangement.monitors);
+        for (const auto side : sides) {
+            if (knowsPanelsAt(side)) {
+                placeOnEachMonitorWithAPanel(arrangement, side);
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, PlacingBesidePanels,
+                         testing::Combine(testing::ValuesIn(xtest::allWindowManagers()),
+                                          testing::Values(ClientProcess::Kind::plain)),
+                         PlacementDesktop::name);
 
 } // namespace
 } // namespace quorvel::x11

@@ -56,7 +56,9 @@ std::vector<Strut> StrutReader::read(Size root)
         if (strut || contains(types, connection.atoms().netWmWindowTypeDock)) {
             watched.emplace(panel.window, connection.selectEvents(panel.window, panelEvents));
         }
-        if (strut && attributes->map_state == XCB_MAP_STATE_VIEWABLE) {
+        // A panel in a frame that its window manager has taken off the screen comes back when a full-screen window
+        // goes.
+        if (strut && attributes->map_state != XCB_MAP_STATE_UNMAPPED) {
             struts.push_back(*strut);
         }
     }
@@ -66,15 +68,31 @@ std::vector<Strut> StrutReader::read(Size root)
 
 std::vector<xcb_window_t> StrutReader::candidates()
 {
-    PendingReply<xcb_query_tree_reply> tree(connection.xcb(), xcb_query_tree(connection.xcb(), connection.root()));
+    const auto topLevels = childrenOf({connection.root()});
+    const auto framed = childrenOf(topLevels);
     auto windows = rootProperties.clientList.values();
-    if (const auto reply = tree.take()) {
-        const auto* const children = xcb_query_tree_children(reply.get());
-        windows.insert(windows.end(), children, children + reply->children_len);
-    }
+    windows.insert(windows.end(), topLevels.begin(), topLevels.end());
+    windows.insert(windows.end(), framed.begin(), framed.end());
     std::ranges::sort(windows);
     const auto repeated = std::ranges::unique(windows);
     windows.erase(repeated.begin(), repeated.end());
+    return windows;
+}
+
+std::vector<xcb_window_t> StrutReader::childrenOf(const std::vector<xcb_window_t>& parents)
+{
+    std::vector<PendingReply<xcb_query_tree_reply>> pending;
+    pending.reserve(parents.size());
+    for (const auto parent : parents) {
+        pending.emplace_back(connection.xcb(), xcb_query_tree(connection.xcb(), parent));
+    }
+    std::vector<xcb_window_t> windows;
+    for (auto& tree : pending) {
+        if (const auto reply = tree.take()) {
+            const auto* const children = xcb_query_tree_children(reply.get());
+            windows.insert(windows.end(), children, children + reply->children_len);
+        }
+    }
     return windows;
 }
 

@@ -14,13 +14,13 @@ namespace quorvel::x11 {
 class Connection;
 class RootProperties;
 
-// Finds what panels reserve. Some panels are clients that the window manager lists, some are its own windows, which it
-// does not list; these are children of the root. Listed clients may be children of a frame.
+// Finds what panels reserve. Some panels are clients that the window manager lists; some it does not list: its own
+// windows, which are children of the root, and with i3 all others, which are children of a frame.
 class StrutReader {
 public:
     StrutReader(Connection& connection, RootProperties& rootProperties);
 
-    // The struts of all panels that can be seen. `root` in pixels. From now on the connection delivers changes of
+    // The struts of all mapped panels. `root` in pixels. From now on the connection delivers changes of
     // these panels and of all other docks.
     std::vector<Strut> read(Size root);
 
@@ -29,6 +29,7 @@ public:
 
 private:
     std::vector<xcb_window_t> candidates();
+    std::vector<xcb_window_t> childrenOf(const std::vector<xcb_window_t>& parents);
 
     Connection& connection;
     RootProperties& rootProperties;

@@ -63,7 +63,14 @@ void X11Screens::watchPanels()
             invalidate();
         }
     };
-    subscriptions.push_back(connection.addHandler<xcb_map_notify_event_t>(XCB_MAP_NOTIFY, invalidateFor));
+    // Not every window manager tells in a property that a panel has come, but its frame is mapped.
+    subscriptions.push_back(connection.selectEvents(connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY));
+    subscriptions.push_back(connection.addHandler<xcb_map_notify_event_t>(XCB_MAP_NOTIFY, [this](const auto& event) {
+        const bool isTopLevel = event.event == this->connection.root() && event.override_redirect == 0;
+        if (isTopLevel || struts.isPanel(event.window)) {
+            invalidate();
+        }
+    }));
     subscriptions.push_back(connection.addHandler<xcb_unmap_notify_event_t>(XCB_UNMAP_NOTIFY, invalidateFor));
     subscriptions.push_back(connection.addHandler<xcb_destroy_notify_event_t>(XCB_DESTROY_NOTIFY, invalidateFor));
 }

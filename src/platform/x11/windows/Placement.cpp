@@ -20,12 +20,20 @@ bool isBound(const WindowSnapshot& window)
 
 Placement::Step Placement::begin(const WindowSnapshot& window)
 {
-    return isBound(window) ? Step{.leavesState = true, .geometry = {}} : Step{.geometry = request(window)};
+    return isBound(window) ? leaveState(window) : Step{.geometry = request(window)};
+}
+
+// Out of full screen a window gets its frame back. A request that is made before covers the whole screen without a
+// frame, which some window managers take for the wish to be full-screen again.
+Placement::Step Placement::leaveState(const WindowSnapshot& window)
+{
+    frameToLose = window.isFullscreen ? std::optional(window.frame) : std::nullopt;
+    return {.leavesState = true, .geometry = {}};
 }
 
 Placement::Step Placement::reconsider(const WindowSnapshot& window)
 {
-    if (isBound(window)) {
+    if (isBound(window) || frameToLose == window.frame) {
         return {};
     }
     const auto previous = lastRequest;
@@ -37,17 +45,24 @@ Placement::Step Placement::settle(const WindowSnapshot& window)
 {
     const auto offset = openOffset(window);
     hasProof = anchor == Anchor::client && offset.x == 0 && offset.y == 0;
-    if (offset == PlacementOffset{} || corrections == mostCorrections) {
+    if (isFulfilledBy(window) || corrections == mostCorrections) {
         return {};
     }
-    ++corrections;
     if (isBound(window)) {
-        return {.leavesState = true, .geometry = request(window)};
+        ++corrections;
+        return leaveState(window);
     }
     if (lastRequest) {
+        ++corrections;
         correct(offset, window);
     }
     return {.geometry = request(window)};
+}
+
+// A full-screen window may well cover its target; it would still not stay there.
+bool Placement::isFulfilledBy(const WindowSnapshot& window) const
+{
+    return !isBound(window) && openOffset(window) == PlacementOffset{};
 }
 
 // A window that is sized in steps gets the size that its window manager chooses.
@@ -75,6 +90,7 @@ WindowManager::Geometry Placement::request(const WindowSnapshot& window)
     const auto base = anchor == Anchor::client ? cornerOfClient(window) : PlacementOffset{};
     const auto geometry = placementRequest(target, window, base + correction);
     lastRequest = geometry;
+    frameToLose.reset();
     return geometry;
 }
 

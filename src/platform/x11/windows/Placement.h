@@ -38,7 +38,7 @@ public:
     Step repeat(const WindowSnapshot& window) { return begin(window); }
 
     // The window is where it shall be, as exactly as it can.
-    bool isFulfilledBy(const WindowSnapshot& window) const { return openOffset(window) == PlacementOffset{}; }
+    bool isFulfilledBy(const WindowSnapshot& window) const;
 
     bool hasTarget(const PlacementTarget& other) const { return target == other; }
 
@@ -46,6 +46,7 @@ public:
     bool hasProvedClientAnchor() const { return hasProof; }
 
 private:
+    Step leaveState(const WindowSnapshot& window);
     PlacementOffset openOffset(const WindowSnapshot& window) const;
     WindowManager::Geometry request(const WindowSnapshot& window);
     void correct(const PlacementOffset& offset, const WindowSnapshot& window);
@@ -55,6 +56,7 @@ private:
     PlacementOffset correction;
     int corrections = 0;
     bool hasProof = false;
+    std::optional<Extents> frameToLose; // that of a window on its way out of full screen
     std::optional<WindowManager::Geometry> lastRequest;
 };
 
