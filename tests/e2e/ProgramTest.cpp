@@ -7,7 +7,7 @@ namespace quorvel::e2e {
 using testing::IsEmpty;
 using xtest::MonitorRole;
 
-ProgramTest::ProgramTest()
+ProgramTest::ProgramTest() : ProgramTest({.width = 3200, .height = 1080})
 {
     display.monitors.arrange({{"left", screen, MonitorRole::primary}});
     display.startWindowManager(xtest::WindowManager::openbox);

@@ -21,6 +21,9 @@ protected:
 
     ProgramTest();
 
+    // On another display, which the test furnishes by itself.
+    explicit ProgramTest(const xtest::XServer::Options& server) : display(server) {}
+
     // Starts the program and waits until its hot keys are there. The tests expect it to survive.
     RunningQuorvel& start(const xtest::ProgramUnderTest::Options& options = {});
 
@@ -41,7 +44,7 @@ protected:
     // A settings file with this inside its dictionary.
     void writeSettings(std::string_view entries);
 
-    xtest::TestDisplay display{{.width = 3200, .height = 1080}};
+    xtest::TestDisplay display;
     xtest::TemporaryDirectory configuration;
     std::unique_ptr<RunningQuorvel> quorvel;
 };
