@@ -22,8 +22,7 @@ std::ostream& operator<<(std::ostream& stream, WindowState state);
 
 // A window manager and a program under it; what is tested of them happens on one server, for all three take long to
 // start.
-class PlacementDesktop
-    : public testing::TestWithParam<std::tuple<xtest::WindowManager, xtest::ClientProcess::Kind>> {
+class PlacementDesktop : public testing::TestWithParam<std::tuple<xtest::WindowManager, xtest::ClientProcess::Kind>> {
 public:
     static std::string name(const testing::TestParamInfo<ParamType>& info);
 
