@@ -1,8 +1,6 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,7 +18,6 @@ using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using Modifier = KeyInjector::Modifier;
 
 const fs::path executable = QUORVEL_PROGRAM;
@@ -105,13 +102,6 @@ protected:
 
     fs::path settings() const { return configuration.path() / "quorvel" / "settings.plist"; }
 
-    static std::string contents(const fs::path& file)
-    {
-        std::ostringstream text;
-        text << std::ifstream(file).rdbuf();
-        return text.str();
-    }
-
     TestDisplay display;
     TemporaryDirectory configuration;
     std::unique_ptr<ClientProcess> editor;
@@ -151,16 +141,6 @@ TEST_F(ProgramTest, AWaylandSessionIsRefusedByItsName)
     EXPECT_THAT(hinted->errorLines(), ElementsAre(HasSubstr("\"wayland\"")));
 }
 
-TEST_F(ProgramTest, ASecondOneSaysThatOneIsRunningAndLeavesItAlone)
-{
-    const auto first = startAndWait();
-    const auto second = start();
-    EXPECT_EQ(second->waitForEnd(), 1);
-    EXPECT_THAT(second->errorLines(), ElementsAre(HasSubstr("already running")));
-    pressOverlayKey();
-    first->waitForLine("Activate overlay shortcut fired");
-}
-
 TEST_F(ProgramTest, AfterACrashItStartsAgain)
 {
     const auto first = startAndWait();
@@ -178,25 +158,6 @@ TEST_F(ProgramTest, AnotherOneTakesOverWhenAskedTo)
     EXPECT_EQ(first->waitForEnd(), 0);
     pressOverlayKey();
     second->waitForLine("Activate overlay shortcut fired");
-}
-
-TEST_F(ProgramTest, ADamagedSettingsFileIsMovedAsideAndTheDefaultsApply)
-{
-    configuration.write("quorvel/settings.plist", "<plist><dict><key>activateOverlayKeyCode</key><integer>4");
-    const auto program = start();
-    program->waitForLine("Registering shortcuts: keyCode=31, modifiers=768");
-    program->waitForLineStartingWith(lastRegistration);
-    EXPECT_THAT(program->errorLines(), ElementsAre(AllOf(HasSubstr("damaged"), HasSubstr("settings.plist.damaged-1"))));
-    EXPECT_THAT(contents(settings().string() + ".damaged-1"), HasSubstr("<integer>4"));
-}
-
-TEST_F(ProgramTest, ValuesOfAWrongTypeLeaveTheDefaults)
-{
-    configuration.write("quorvel/settings.plist",
-                        "<plist><dict><key>activateOverlayModifiers</key><string>many</string></dict></plist>");
-    const auto program = start();
-    program->waitForLine("Registering shortcuts: keyCode=31, modifiers=768");
-    EXPECT_THAT(contents(settings()), HasSubstr("<string>many</string>"));
 }
 
 TEST_F(ProgramTest, AShortcutChangedInTheFileHoldsAtOnce)
@@ -228,31 +189,11 @@ TEST_F(ProgramTest, AnotherSettingChangedInTheFileIsCheckedAndLeavesTheHotKeysAl
     EXPECT_EQ(registrations(*program), 2);
 }
 
-class EndingSignalTest : public ProgramTest, public testing::WithParamInterface<int> {};
-
-TEST_P(EndingSignalTest, LeavesNothingGrabbedWhileTheOverlayIsUp)
-{
-    const auto program = startAndShowOverlay();
-    EXPECT_EQ(program->end(GetParam()), 0);
-    EXPECT_THAT(program->errorLines(), IsEmpty());
-    expectNothingGrabbed();
-}
-
-INSTANTIATE_TEST_SUITE_P(Signals, EndingSignalTest, testing::Values(SIGTERM, SIGINT, SIGHUP));
-
 TEST_F(ProgramTest, ACrashLeavesNothingGrabbedWhileTheOverlayIsUp)
 {
     const auto program = startAndShowOverlay();
     EXPECT_EQ(program->end(SIGKILL), 128 + SIGKILL);
     expectNothingGrabbed();
-}
-
-TEST_F(ProgramTest, WhenTheServerGoesItSaysSoAndEndsInOrder)
-{
-    const auto program = startAndShowOverlay();
-    display.server.kill();
-    EXPECT_EQ(program->waitForEnd(), 1);
-    EXPECT_THAT(program->errorLines(), ElementsAre(HasSubstr("X server")));
 }
 
 TEST_F(ProgramTest, NothingOfAHeldEscapeReachesTheWindowBehindTheOverlay)
