@@ -51,7 +51,7 @@ EventProbe::EventProbe(const xtest::XServer& server) : xcb(xcb_connect(server.di
         throw xtest::HarnessError("the X server lacks the DAMAGE extension");
     }
     damageEvent = extension->first_event;
-    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(xcb, root(), XCB_CW_EVENT_MASK, &mask);
     xcb_damage_create(xcb, xcb_generate_id(xcb), root(), XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
     readTopLevels();
@@ -116,6 +116,30 @@ std::optional<Milliseconds> EventProbe::pressUntilPlaced(const Chord& chord, xcb
         });
     release(chord);
     return reached ? std::optional(Milliseconds(*reached - begin)) : std::nullopt;
+}
+
+std::optional<Milliseconds> EventProbe::pressUntilOtherActive(const Chord& chord)
+{
+    rest();
+    const auto before = activeWindow();
+    const auto activeWindowAtom = atom("_NET_ACTIVE_WINDOW");
+    std::optional<Clock::time_point> changed;
+    const auto begin = press(chord);
+    readEvents(
+        begin + patience, [&] { return changed.has_value(); },
+        [&](const xcb_generic_event_t& event, Clock::time_point now) {
+            const bool isProperty = (event.response_type & 0x7F) == XCB_PROPERTY_NOTIFY;
+            if (isProperty && reinterpret_cast<const xcb_property_notify_event_t&>(event).atom == activeWindowAtom &&
+                !changed) {
+                const auto active = activeWindow();
+                if (active != before && active != XCB_NONE) {
+                    changed = now;
+                }
+            }
+        });
+    release(chord);
+    rest();
+    return changed ? std::optional(Milliseconds(*changed - begin)) : std::nullopt;
 }
 
 bool EventProbe::pressUntilVisible(const Chord& chord, std::size_t windowCount)

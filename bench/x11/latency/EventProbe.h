@@ -44,6 +44,9 @@ public:
     std::optional<Milliseconds> pressUntilPlaced(const Chord& chord, xcb_window_t topLevel,
                                                  const xtest::PixelRect& frame);
 
+    // Presses the chord and waits until another window than before is the active one.
+    std::optional<Milliseconds> pressUntilOtherActive(const Chord& chord);
+
     // Presses the chord and waits until no more than `windowCount` top-level windows are visible, for getting back to
     // the state before a measurement; false when that does not happen.
     bool pressUntilVisible(const Chord& chord, std::size_t windowCount);

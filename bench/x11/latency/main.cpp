@@ -1,7 +1,7 @@
 // Measures what a person waits for: from a key press to painted overlays and to a window in its place, for Quorvel and
 // for other ways of doing the same, all in one run on displays of its own.
 //
-//   latency [--runs N] [--csv FILE] [--table overlay|composited|placement]
+//   latency [--runs N] [--csv FILE] [--table overlay|composited|placement|switcher]
 //
 // Exits with status 1 when a budget is not met, 2 when something could not be measured.
 
@@ -17,14 +17,13 @@
 #include <fmt/format.h>
 
 #include "latency/BenchDesktop.h"
+#include "latency/Measurements.h"
 #include "latency/Report.h"
+#include "latency/SwitcherTables.h"
 #include "support/Patience.h"
-#include "support/ProgramUnderTest.h"
 
 namespace quorvel::bench {
 namespace {
-
-constexpr int warmUpRuns = 3;
 
 // Six tiles as the only layout, so that its frames are what the hot key shows; two halves as the second.
 constexpr auto sixTilesSettings = R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -44,63 +43,6 @@ constexpr auto halvesSettings = R"(<?xml version="1.0" encoding="UTF-8"?>
 const Chord overlayHotKey{{XKB_KEY_Super_L, XKB_KEY_Shift_L}, XKB_KEY_o};
 const Chord superF9{{XKB_KEY_Super_L}, XKB_KEY_F9};
 const Chord superF10{{XKB_KEY_Super_L}, XKB_KEY_F10};
-const Chord escape{{}, XKB_KEY_Escape};
-
-void add(Series& series, std::optional<Milliseconds> time)
-{
-    if (time) {
-        series.add(*time);
-    } else {
-        series.addMiss();
-    }
-}
-
-// Runs `once` after a few unmeasured runs.
-Series repeat(int runs, const std::function<std::optional<Milliseconds>()>& once)
-{
-    Series series;
-    for (int run = -warmUpRuns; run < runs; ++run) {
-        const auto time = once();
-        if (run >= 0) {
-            add(series, time);
-        }
-    }
-    return series;
-}
-
-class QuorvelProcess {
-public:
-    QuorvelProcess(BenchDesktop& desktop, std::string_view settings)
-    {
-        configuration.write("quorvel/settings.plist", settings);
-        program.emplace(desktop.display(), QUORVEL_PROGRAM, configuration);
-        program->waitForLineStartingWith("Registered hotkey id=3");
-        desktop.eventProbe().rest();
-    }
-
-    // Keeps its output from filling up; a program that cannot write its log stands still.
-    void drainOutput() { program->outputLines(); }
-
-private:
-    xtest::TemporaryDirectory configuration;
-    std::optional<xtest::ProgramUnderTest> program;
-};
-
-Series overlayTimes(
-    BenchDesktop& desktop, int runs, const Chord& hotKey, std::size_t windowCount,
-    const std::function<void()>& afterEach = [] {})
-{
-    auto& probe = desktop.eventProbe();
-    const auto before = probe.visibleCount();
-    return repeat(runs, [&]() -> std::optional<Milliseconds> {
-        const auto time = probe.pressUntilPainted(hotKey, windowCount);
-        if (!probe.pressUntilVisible(escape, before)) {
-            throw xtest::HarnessError("what a hot key showed did not go away on Escape");
-        }
-        afterEach();
-        return time;
-    });
-}
 
 // Two chords that take turns. Where each of them leaves the window is learnt first, so that every contender is timed by
 // its own idea of the place.
@@ -215,6 +157,7 @@ constexpr std::array tables = {
     Table{"overlay", [](int runs) { return overlayReport(Compositing::off, runs); }},
     Table{"composited", [](int runs) { return overlayReport(Compositing::on, runs); }},
     Table{"placement", placementReport},
+    Table{"switcher", switcherReport},
 };
 
 std::optional<Options> parse(int count, char** words)
@@ -269,7 +212,7 @@ int main(int argumentCount, char** arguments)
 {
     const auto options = quorvel::bench::parse(argumentCount, arguments);
     if (!options) {
-        std::fputs("usage: latency [--runs N] [--csv FILE] [--table overlay|composited|placement]\n", stderr);
+        std::fputs("usage: latency [--runs N] [--csv FILE] [--table overlay|composited|placement|switcher]\n", stderr);
         return 2;
     }
     try {
