@@ -115,6 +115,13 @@ void Desk::minimize(xtest::ClientProcess& program)
                            [&] { return display.client.hasState(program.window(), "_NET_WM_STATE_HIDDEN"); });
 }
 
+void Desk::spreadWindows()
+{
+    move(*letterProcess, {110, 150, 640, 560});
+    move(*plannerProcess, {860, 110, 660, 430});
+    move(*terminalProcess, {640, 580, 820, 380});
+}
+
 PixelRect Desk::workArea() const
 {
     return {first.x, first.y + barHeight, first.width, first.height - barHeight};
@@ -158,9 +165,12 @@ void Desk::move(xtest::ClientProcess& program, const PixelRect& rect)
                                 static_cast<std::uint32_t>(rect.y),
                                 static_cast<std::uint32_t>(rect.width - frame.left - frame.right),
                                 static_cast<std::uint32_t>(rect.height - frame.top - frame.bottom)});
+    constexpr int largestStep = 24; // terminals size themselves in steps
+    const auto isSize = [](int actual, int wanted) { return actual <= wanted && actual > wanted - largestStep; };
     client.waitFor("a window to take its place", [&] {
         const auto outer = client.outerRect(program.window());
-        return outer && outer->x == rect.x && outer->y == rect.y;
+        return outer && outer->x == rect.x && outer->y == rect.y && isSize(outer->width, rect.width) &&
+               isSize(outer->height, rect.height);
     });
 }
 

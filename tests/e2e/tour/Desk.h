@@ -33,6 +33,9 @@ public:
 
     void minimize(xtest::ClientProcess& program);
 
+    // Puts the planner to the right of the letter with room between them, and the terminal below.
+    void spreadWindows();
+
     // Where windows may be on the first monitor.
     xtest::PixelRect workArea() const;
 

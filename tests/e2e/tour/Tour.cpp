@@ -13,6 +13,7 @@ using xtest::PixelRect;
 
 constexpr auto hotKeyName = "Command-Shift-O";
 constexpr auto switcherKeyName = "Command-Shift-F";
+constexpr auto moveKeyName = "Command-Option-R";
 
 // The windows stay visible under the focus switcher's frames.
 constexpr auto settings = R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -45,6 +46,7 @@ void Tour::perform()
         stepThroughLayouts();
         jumpByDigit();
         switchFocus();
+        moveAndResize();
         useSecondMonitor();
         cancel();
         finish();
@@ -106,18 +108,41 @@ void Tour::switchFocus()
     expectActive("C", "go to the planner", desk.planner(), [&] { keyboard.tap(XKB_KEY_c); });
 }
 
+// The letter's right edge is at 750; the planner comes from the right, in steps of 20.
+void Tour::moveAndResize()
+{
+    auto& keyboard = desk.display.keyboard;
+    const auto tap = [&](int times, xcb_keysym_t key, const std::vector<xtest::KeyInjector::Modifier>& modifiers = {}) {
+        for (int i = 0; i < times; ++i) {
+            keyboard.tap(modifiers, key);
+        }
+    };
+    desk.spreadWindows();
+    desk.display.client.activate(desk.planner().window());
+    expectWindows(moveKeyName, "mark the planner", 1, [&] {
+        keyboard.tap({xtest::KeyInjector::Modifier::command, xtest::KeyInjector::Modifier::option}, XKB_KEY_r);
+    });
+    expectMove("Left, 5 times", "move it to the letter", {750, 110, 660, 430}, [&] { tap(5, XKB_KEY_Left); });
+    takePicture("8-snapped", desk.firstMonitor());
+    expectMove("Left, 3 times", "pull it over the letter", {730, 110, 660, 430}, [&] { tap(3, XKB_KEY_Left); });
+    expectMove("Shift-Right", "make it wider", {730, 110, 680, 430},
+               [&] { tap(1, XKB_KEY_Right, {xtest::KeyInjector::Modifier::shift}); });
+    expectPlacement("Escape", "leave it there", desk.planner().window(), {730, 110, 680, 430},
+                    [&] { tap(1, XKB_KEY_Escape); });
+}
+
 void Tour::useSecondMonitor()
 {
     desk.switchSecondMonitorOn();
     expectFrames(hotKeyName, "show layout 6 again", e2e::fourTiles, desk.workArea(), [&] { quorvel.pressHotKey(); });
     expectFrames("Right", "show it on monitor 2", e2e::fourTiles, desk.secondMonitor(),
                  [&] { desk.display.keyboard.tap(XKB_KEY_Right); });
-    takePicture("8-second-monitor", desk.bothMonitors());
+    takePicture("9-second-monitor", desk.bothMonitors());
     expectFrames("2", "jump to layout 2 there", e2e::centered, desk.secondMonitor(),
                  [&] { desk.display.keyboard.tap(XKB_KEY_2); });
     expectPlacement("A", "place the planner there", desk.planner().window(),
                     e2e::centered[0].within(desk.secondMonitor()), [&] { desk.display.keyboard.tap(XKB_KEY_a); });
-    takePicture("9-placed-on-second-monitor", desk.bothMonitors());
+    takePicture("10-placed-on-second-monitor", desk.bothMonitors());
 }
 
 void Tour::cancel()
@@ -176,11 +201,20 @@ void Tour::expectPlacement(const std::string& key, const std::string& effect, xc
     });
 }
 
+void Tour::expectMove(const std::string& key, const std::string& effect, const PixelRect& expected,
+                      const std::function<void()>& keys)
+{
+    step(key, effect, describe(expected), [&] {
+        keys();
+        return describe(quorvel.waitUntilPlaced(desk.planner().window(), expected));
+    });
+}
+
 void Tour::expectActive(const std::string& key, const std::string& effect, xtest::ClientProcess& program,
                         const std::function<void()>& keys)
 {
     auto& client = desk.display.client;
-    const auto text = fmt::format("window {:#x} has the focus", program.window());
+    const std::string text = "the focus is there";
     step(key, effect, text, [&] {
         keys();
         client.waitFor("a window to become active", [&] { return client.activeWindow() == program.window(); });
@@ -192,7 +226,7 @@ void Tour::expectActive(const std::string& key, const std::string& effect, xtest
 void Tour::expectWindows(const std::string& key, const std::string& effect, std::size_t count,
                          const std::function<void()>& keys)
 {
-    const auto text = fmt::format("{} overlay windows", count);
+    const auto text = fmt::format("{} window{} of Quorvel", count, count == 1 ? "" : "s");
     step(key, effect, text, [&] {
         keys();
         quorvel.waitForOverlayWindows(count);

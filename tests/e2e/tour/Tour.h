@@ -25,6 +25,7 @@ private:
     void stepThroughLayouts();
     void jumpByDigit();
     void switchFocus();
+    void moveAndResize();
     void useSecondMonitor();
     void cancel();
     void finish();
@@ -38,6 +39,9 @@ private:
     void expectPlacement(const std::string& key, const std::string& effect, xcb_window_t window,
                          const xtest::PixelRect& expected, const std::function<void()>& keys);
 
+    // The same for the planner, while it stays marked.
+    void expectMove(const std::string& key, const std::string& effect, const xtest::PixelRect& expected,
+                    const std::function<void()>& keys);
     void expectActive(const std::string& key, const std::string& effect, xtest::ClientProcess& program,
                       const std::function<void()>& keys);
     void expectWindows(const std::string& key, const std::string& effect, std::size_t count,
