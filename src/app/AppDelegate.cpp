@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "app/MainController.h"
-#include "app/SharedUpdater.h"
 #include "base/FatalError.h"
 #include "platform/Bundle.h"
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
 #include "platform/Workspace.h"
+#include "preferences/SharedUpdater.h"
 #include "settings/SettingsReport.h"
 #include "system/GlobalEventBlocker.h"
 #include "system/PermissionsOnboarding.h"

@@ -34,10 +34,10 @@ constexpr auto largestHotKeyNumber = std::numeric_limits<std::uint32_t>::max();
 
 } // namespace
 
-MainController::MainController(const Platform& platform, GlobalEventBlocker* blocker)
+MainController::MainController(const Platform& platform, GlobalEventBlocker* blocker, SharedUpdater* updater)
     : platform(platform),
       overlayWindowManager(platform),
-      preferencesManager(platform),
+      preferencesManager(platform, updater),
       shortcutManager(platform.hotKeys, platform.mainQueue, platform.log),
       layouts(platform.bundle, Settings(platform.userDefaults), platform.log),
       eventBlocker(blocker),

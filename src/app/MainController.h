@@ -26,6 +26,7 @@ struct Platform;
 struct Shortcut;
 struct ShortcutKeys;
 class GlobalEventBlocker;
+class SharedUpdater;
 
 // The hub of the running program: registers the global hot keys, turns them and the keys of modes into actions, drives
 // the modes, and gives the hot keys up while the preferences are open. Main thread only.
@@ -38,9 +39,9 @@ public:
     static constexpr std::string_view focusSwitcherKeyCodeKey = settingsKeys::focusSwitcherKeyCode;
     static constexpr std::string_view focusSwitcherModifiersKey = settingsKeys::focusSwitcherModifiers;
 
-    // Loads the catalogue of layouts and registers the hot keys: they work from here on. `platform` and `blocker`,
-    // which is null where keys cannot be blocked, outlive the controller.
-    MainController(const Platform& platform, GlobalEventBlocker* blocker);
+    // Loads the catalogue of layouts and registers the hot keys: they work from here on. `platform`, `blocker`, which
+    // is null where keys cannot be blocked, and `updater`, null where there is none, outlive the controller.
+    MainController(const Platform& platform, GlobalEventBlocker* blocker, SharedUpdater* updater = nullptr);
     MainController(const MainController&) = delete;
     MainController& operator=(const MainController&) = delete;
     ~MainController();

@@ -10,7 +10,7 @@ QuorvelApp::QuorvelApp(const Platform& platform, std::string userGuideAddress)
     : permissionsOnboarding(platform),
       updater(platform.updater),
       eventBlocker(platform),
-      controller(platform, &eventBlocker),
+      controller(platform, &eventBlocker, &updater),
       delegate({.platform = platform,
                 .blocker = eventBlocker,
                 .mainController = &controller,

@@ -5,7 +5,7 @@
 #include "app/AppDelegate.h"
 #include "app/BuildSettings.h"
 #include "app/MainController.h"
-#include "app/SharedUpdater.h"
+#include "preferences/SharedUpdater.h"
 #include "system/GlobalEventBlocker.h"
 #include "system/PermissionsOnboarding.h"
 

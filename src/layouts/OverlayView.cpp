@@ -39,6 +39,11 @@ DrawList OverlayView::body(const Size& size, const ViewEnvironment& environment,
 {
     log.line(fmt::format("📊 OverlayView: label={}, appName={}, title={}, shouldShow={}", label,
                          appName.value_or("nil"), windowTitle.value_or("nil"), shouldShowWindowInfo()));
+    return drawList(size, environment);
+}
+
+DrawList OverlayView::drawList(const Size& size, const ViewEnvironment& environment) const
+{
     const auto yellow = environment.systemColors.yellow();
     DrawList list;
     appendFrameBackground(list, appearance, size, yellow);

@@ -23,6 +23,9 @@ struct OverlayView {
     // Writes one line to the log each time.
     DrawList body(const Size& size, const ViewEnvironment& environment, Log& log) const;
 
+    // The same, silently.
+    DrawList drawList(const Size& size, const ViewEnvironment& environment) const;
+
 private:
     bool shouldShowWindowInfo() const;
 };

@@ -17,6 +17,9 @@ public:
     // Enters this program into the system's list for that permission, without a prompt of the system's own.
     virtual void request(Permission permission) = 0;
 
+    // Whether there is such a place as openSettings() opens.
+    virtual bool hasSettings(Permission permission) const = 0;
+
     // Opens the system's settings where that permission is given; false if there is no such place.
     virtual bool openSettings(Permission permission) = 0;
 };

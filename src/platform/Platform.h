@@ -11,6 +11,7 @@ class EventTaps;
 class HotKeys;
 class KeyboardLayout;
 class Log;
+class LoginItem;
 class MainQueue;
 class NotificationCenter;
 class OverlayWindows;
@@ -50,6 +51,7 @@ struct Platform {
     Alerts& alerts;
     PreferencesUi* preferencesUi = nullptr; // null where this build has no preferences window
     Updater* updater = nullptr;             // null where this build does not update itself
+    LoginItem* loginItem = nullptr;         // null where sessions start no programs
     bool focusesExactWindow = false;        // what the setting "fsFocusExactWindow" means while it is absent
 };
 

@@ -35,7 +35,7 @@ public:
     virtual ~PreferencesWindowModel() = default;
 
     // The same for the life of the window.
-    virtual PreferencesWindowContent content() const = 0;
+    virtual PreferencesWindowContent content() = 0;
 
     // The tab in front; the user chooses another one.
     virtual std::size_t selectedTab() const = 0;

@@ -14,6 +14,10 @@ public:
 
     // Looks for a newer version and tells the user what came of it.
     virtual void checkForUpdates() = 0;
+
+    // Whether that happens by itself from time to time. The updater keeps it across runs.
+    virtual bool automaticallyChecksForUpdates() const = 0;
+    virtual void setAutomaticallyChecksForUpdates(bool automatically) = 0;
 };
 
 class Updater {

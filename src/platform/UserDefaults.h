@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "base/Subscription.h"
 #include "platform/PropertyValue.h"
 
 namespace quorvel {
@@ -26,6 +28,10 @@ public:
     virtual void setObject(std::string_view key, PropertyValue value) = 0;
 
     virtual void removeObject(std::string_view key) = 0;
+
+    // Calls `changed` from the main loop after somebody other than this program has changed a value, until the token
+    // goes.
+    virtual Subscription observeForeignChanges(std::function<void()> changed) = 0;
 };
 
 } // namespace quorvel

@@ -9,12 +9,13 @@ namespace quorvel {
 
 struct Platform;
 class PreferencesWindowController;
+class SharedUpdater;
 
 // Owns the controller of the preferences window, one and the same from the first request to the end of the process.
 class PreferencesManager {
 public:
-    // `platform` outlives the manager.
-    explicit PreferencesManager(const Platform& platform);
+    // `updater` is null where there is none to ask. Both outlive the manager.
+    PreferencesManager(const Platform& platform, SharedUpdater* updater);
     PreferencesManager(const PreferencesManager&) = delete;
     PreferencesManager& operator=(const PreferencesManager&) = delete;
     ~PreferencesManager();
@@ -27,6 +28,7 @@ public:
 
 private:
     const Platform& platform;
+    SharedUpdater* updater;
     std::unique_ptr<PreferencesWindowController> preferencesWindowController;
 };
 

@@ -6,16 +6,18 @@
 
 #include "platform/NotificationCenter.h"
 #include "platform/PreferencesUi.h"
+#include "preferences/PreferencesContainerViewController.h"
 
 namespace quorvel {
 
 struct Platform;
+class UpdaterController;
 
 // The preferences window with its tabs; it announces its closing.
 class PreferencesWindowController final : public PreferencesWindowModel {
 public:
-    // `platform` outlives the controller.
-    explicit PreferencesWindowController(const Platform& platform) : platform(platform) {}
+    // `updater` is null where this build does not update itself. Both outlive the controller.
+    PreferencesWindowController(const Platform& platform, UpdaterController* updater);
 
     // Makes the window if there is none yet, and shows it; nothing happens where it cannot be made.
     void showWindow();
@@ -23,16 +25,16 @@ public:
     // The object of notifications about the window, if there is one.
     std::optional<NotificationObject> windowObject() const;
 
-    PreferencesWindowContent content() const override;
-    std::size_t selectedTab() const override { return selected; }
+    PreferencesWindowContent content() override;
+    std::size_t selectedTab() const override { return container.selectedTab(); }
     void selectTab(std::size_t tab) override;
     void windowDidBecomeActive() override;
     void windowWillClose() override;
 
 private:
     const Platform& platform;
-    std::size_t selected = 0;
-    std::unique_ptr<PreferencesWindow> window;
+    PreferencesContainerViewController container;
+    std::unique_ptr<PreferencesWindow> window; // goes first, and tells of its end
 };
 
 } // namespace quorvel

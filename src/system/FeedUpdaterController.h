@@ -19,8 +19,8 @@ public:
     explicit FeedUpdaterController(const FeedUpdaterEnvironment& environment);
 
     void checkForUpdates() override;
-    bool automaticallyChecksForUpdates() const;
-    void setAutomaticallyChecksForUpdates(bool automatically);
+    bool automaticallyChecksForUpdates() const override;
+    void setAutomaticallyChecksForUpdates(bool automatically) override;
 
 private:
     enum class Asker { person, itself };

@@ -3,11 +3,26 @@
 #include <optional>
 
 #include "platform/SystemColors.h"
+#include "settings/AppearanceSettings.h"
 
 namespace quorvel {
 
 OverlayFrameView::OverlayFrameView(const SystemColors& systemColors) : borderColor(systemColors.blue().withAlpha(0.9))
 {}
+
+OverlayFrameView::OverlayFrameView(const SystemColors& systemColors, const FrameAppearance& appearance)
+    : OverlayFrameView(systemColors)
+{
+    setAppearance(appearance);
+}
+
+void OverlayFrameView::setAppearance(const FrameAppearance& appearance)
+{
+    borderColor = appearance.color;
+    borderWidth = appearance.borderWidth;
+    cornerRadius = appearance.cornerRadius;
+    glow = appearance.glow;
+}
 
 DrawList OverlayFrameView::drawList(const Size& bounds) const
 {

@@ -6,6 +6,7 @@
 
 namespace quorvel {
 
+struct FrameAppearance;
 class SystemColors;
 
 // A rounded outline just inside the edges of its window, never filled, with a soft glow on demand.
@@ -17,6 +18,9 @@ class SystemColors;
 //   +--------------------+
 struct OverlayFrameView {
     explicit OverlayFrameView(const SystemColors& systemColors);
+    OverlayFrameView(const SystemColors& systemColors, const FrameAppearance& appearance);
+
+    void setAppearance(const FrameAppearance& appearance);
 
     DrawList drawList(const Size& bounds) const;
 

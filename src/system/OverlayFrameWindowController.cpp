@@ -27,10 +27,7 @@ const OverlayFrameView& OverlayFrameWindowController::overlayView() const
 
 void OverlayFrameWindowController::setAppearance(const FrameAppearance& appearance)
 {
-    view.borderColor = appearance.color;
-    view.borderWidth = appearance.borderWidth;
-    view.cornerRadius = appearance.cornerRadius;
-    view.glow = appearance.glow;
+    view.setAppearance(appearance);
     display();
 }
 

@@ -41,7 +41,8 @@ Platform SimulatedDesktop::platform()
             .permissions = permissions,
             .alerts = alerts,
             .preferencesUi = &preferencesUi,
-            .updater = &updater};
+            .updater = &updater,
+            .loginItem = &loginItem};
 }
 
 SimulatedApplication& SimulatedDesktop::launch(std::string name)

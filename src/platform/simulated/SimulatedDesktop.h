@@ -19,6 +19,7 @@
 #include "platform/simulated/SimulatedKeyboard.h"
 #include "platform/simulated/SimulatedKeyboardLayout.h"
 #include "platform/simulated/SimulatedLog.h"
+#include "platform/simulated/SimulatedLoginItem.h"
 #include "platform/simulated/SimulatedMainQueue.h"
 #include "platform/simulated/SimulatedNotificationCenter.h"
 #include "platform/simulated/SimulatedOverlayWindows.h"
@@ -91,7 +92,7 @@ public:
     SimulatedMainQueue mainQueue{journal};
     SimulatedWindowServer windowServer;
     SimulatedLog log{journal};
-    SimulatedUserDefaults userDefaults{journal};
+    SimulatedUserDefaults userDefaults{journal, mainQueue};
     SimulatedNotificationCenter notificationCenter{journal, mainQueue};
     SimulatedBundle bundle{journal};
     SimulatedDates dates;
@@ -112,6 +113,7 @@ public:
     SimulatedPreferencesUi preferencesUi{journal, mainQueue, notificationCenter, windowServer};
     SimulatedUpdater updater{journal};
     SimulatedHttpClient httpClient{journal, mainQueue};
+    SimulatedLoginItem loginItem{journal};
     SimulatedKeyboard keyboard;
 
 private:

@@ -29,7 +29,7 @@ void SimulatedPermissions::request(Permission permission)
 bool SimulatedPermissions::openSettings(Permission permission)
 {
     journal.record("Permissions.openSettings({})", nameOf(permission));
-    return hasSettings;
+    return settingsExist;
 }
 
 } // namespace quorvel

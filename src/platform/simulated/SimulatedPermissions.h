@@ -15,18 +15,19 @@ public:
 
     bool isGranted(Permission permission) const override;
     void request(Permission permission) override;
+    bool hasSettings(Permission) const override { return settingsExist; }
     bool openSettings(Permission permission) override;
 
     void grant(Permission permission) { given.insert(permission); }
     void deny(Permission permission) { given.erase(permission); }
     bool isGiven(Permission permission) const { return given.contains(permission); }
 
-    void loseSettings() { hasSettings = false; }
+    void loseSettings() { settingsExist = false; }
 
 private:
     Journal& journal;
     std::set<Permission> given{Permission::accessibility, Permission::inputMonitoring};
-    bool hasSettings = true;
+    bool settingsExist = true;
 };
 
 } // namespace quorvel

@@ -8,7 +8,7 @@ namespace quorvel {
 std::unique_ptr<UpdaterController> SimulatedUpdater::createController()
 {
     journal.record("Updater.createController()");
-    return std::make_unique<SimulatedUpdaterController>(journal);
+    return std::make_unique<SimulatedUpdaterController>(journal, checksAutomatically);
 }
 
 } // namespace quorvel

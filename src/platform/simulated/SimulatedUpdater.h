@@ -12,6 +12,8 @@ public:
 
     std::unique_ptr<UpdaterController> createController() override;
 
+    bool checksAutomatically = true; // what it keeps across runs
+
 private:
     Journal& journal;
 };

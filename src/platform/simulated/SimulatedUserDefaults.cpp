@@ -4,6 +4,7 @@
 
 #include "platform/simulated/Journal.h"
 #include "platform/simulated/JournalText.h"
+#include "platform/simulated/SimulatedMainQueue.h"
 
 namespace quorvel {
 
@@ -27,6 +28,17 @@ void SimulatedUserDefaults::removeObject(std::string_view key)
     if (entry != values.end()) {
         values.erase(entry);
     }
+}
+
+Subscription SimulatedUserDefaults::observeForeignChanges(std::function<void()> changed)
+{
+    return foreignChange.observe(std::move(changed));
+}
+
+void SimulatedUserDefaults::changeFromOutside(std::string_view key, PropertyValue value)
+{
+    values.insert_or_assign(std::string(key), std::move(value));
+    mainQueue.async([this] { foreignChange.emit(); });
 }
 
 } // namespace quorvel

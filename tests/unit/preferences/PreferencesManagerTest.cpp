@@ -11,7 +11,7 @@ TEST(PreferencesManager, TheWindowIsMadeOnTheFirstRequest)
 {
     SimulatedDesktop desktop;
     const auto platform = desktop.platform();
-    PreferencesManager manager(platform);
+    PreferencesManager manager(platform, nullptr);
     EXPECT_EQ(desktop.preferencesUi.createdWindows(), 0U);
     EXPECT_FALSE(manager.windowObject());
     manager.show();
@@ -23,7 +23,7 @@ TEST(PreferencesManager, LaterRequestsShowTheSameWindow)
 {
     SimulatedDesktop desktop;
     const auto platform = desktop.platform();
-    PreferencesManager manager(platform);
+    PreferencesManager manager(platform, nullptr);
     manager.show();
     const auto first = manager.windowObject();
     desktop.preferencesUi.closeWindows();
@@ -39,7 +39,7 @@ TEST(PreferencesManager, AWindowThatCannotBeMadeIsTriedAgain)
     SimulatedDesktop desktop;
     const auto platform = desktop.platform();
     desktop.preferencesUi.refuseWindows();
-    PreferencesManager manager(platform);
+    PreferencesManager manager(platform, nullptr);
     manager.show();
     manager.show();
     EXPECT_FALSE(manager.windowObject());
@@ -51,7 +51,7 @@ TEST(PreferencesManager, ABuildWithoutPreferencesShowsNone)
     SimulatedDesktop desktop;
     auto platform = desktop.platform();
     platform.preferencesUi = nullptr;
-    PreferencesManager manager(platform);
+    PreferencesManager manager(platform, nullptr);
     manager.show();
     EXPECT_FALSE(manager.windowObject());
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/simulated/Journal.h"
+#include "platform/simulated/SimulatedMainQueue.h"
 #include "platform/simulated/SimulatedSystemColors.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "settings/MoveResizeSettings.h"
@@ -18,7 +19,8 @@ protected:
     FrameAppearance snapTarget() const { return snapTargetFrameAppearance(settings, systemColors); }
 
     Journal journal;
-    SimulatedUserDefaults store{journal};
+    SimulatedMainQueue mainQueue{journal};
+    SimulatedUserDefaults store{journal, mainQueue};
     Settings settings{store};
     SimulatedSystemColors systemColors;
 };

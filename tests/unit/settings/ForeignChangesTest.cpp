@@ -32,7 +32,7 @@ protected:
     Journal journal;
     SimulatedMainQueue mainQueue{journal};
     SimulatedNotificationCenter center{journal, mainQueue};
-    SimulatedUserDefaults store{journal};
+    SimulatedUserDefaults store{journal, mainQueue};
     SimulatedLog log{journal};
     Settings settings{store};
 };

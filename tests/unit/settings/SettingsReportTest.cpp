@@ -7,6 +7,7 @@
 
 #include "platform/simulated/Journal.h"
 #include "platform/simulated/SimulatedLog.h"
+#include "platform/simulated/SimulatedMainQueue.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "settings/Settings.h"
 #include "settings/ShortcutSettings.h"
@@ -17,7 +18,8 @@ namespace {
 class SettingsReportTest : public testing::Test {
 protected:
     Journal journal;
-    SimulatedUserDefaults store{journal};
+    SimulatedMainQueue mainQueue{journal};
+    SimulatedUserDefaults store{journal, mainQueue};
     SimulatedLog log{journal};
     Settings settings{store};
 };

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/simulated/Journal.h"
+#include "platform/simulated/SimulatedMainQueue.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "settings/SettingsKeys.h"
 #include "settings/SettingsTable.h"
@@ -18,7 +19,8 @@ namespace {
 class SettingsTest : public testing::Test {
 protected:
     Journal journal;
-    SimulatedUserDefaults store{journal};
+    SimulatedMainQueue mainQueue{journal};
+    SimulatedUserDefaults store{journal, mainQueue};
     Settings settings{store};
 };
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/simulated/Journal.h"
+#include "platform/simulated/SimulatedMainQueue.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "settings/Settings.h"
 #include "tests/support/FatalErrors.h"
@@ -17,7 +18,8 @@ namespace {
 class ShortcutSettingsTest : public testing::Test {
 protected:
     Journal journal;
-    SimulatedUserDefaults store{journal};
+    SimulatedMainQueue mainQueue{journal};
+    SimulatedUserDefaults store{journal, mainQueue};
     Settings settings{store};
 };
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/simulated/Journal.h"
+#include "platform/simulated/SimulatedMainQueue.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "settings/AppearanceSettings.h"
 #include "settings/Settings.h"
@@ -37,7 +38,8 @@ Record only(std::string_view json)
 class ThemeSettingsTest : public testing::Test {
 protected:
     Journal journal;
-    SimulatedUserDefaults store{journal};
+    SimulatedMainQueue mainQueue{journal};
+    SimulatedUserDefaults store{journal, mainQueue};
     Settings settings{store};
 };
 

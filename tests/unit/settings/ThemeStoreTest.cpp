@@ -9,6 +9,7 @@
 
 #include "platform/simulated/Journal.h"
 #include "platform/simulated/SimulatedLog.h"
+#include "platform/simulated/SimulatedMainQueue.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "settings/ThemeCoding.h"
 #include "settings/ThemeSettings.h"
@@ -47,7 +48,8 @@ protected:
     }
 
     Journal journal;
-    SimulatedUserDefaults store{journal};
+    SimulatedMainQueue mainQueue{journal};
+    SimulatedUserDefaults store{journal, mainQueue};
     SimulatedLog log{journal};
     Settings settings{store};
 };

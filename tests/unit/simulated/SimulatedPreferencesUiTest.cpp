@@ -16,7 +16,7 @@ class HeardWindowModel final : public PreferencesWindowModel {
 public:
     explicit HeardWindowModel(std::vector<std::string>& heard) : heard(heard) {}
 
-    PreferencesWindowContent content() const override
+    PreferencesWindowContent content() override
     {
         return {.title = "Window", .iconName = {}, .size = {800, 600}, .minimumSize = {400, 300}, .tabs = {}};
     }

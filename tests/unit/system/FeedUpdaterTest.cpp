@@ -53,7 +53,7 @@ protected:
     const std::vector<Alert>& alerts() const { return desktop.alerts.shown(); }
 
     SimulatedDesktop desktop;
-    SimulatedUserDefaults store{desktop.journal};
+    SimulatedUserDefaults store{desktop.journal, desktop.mainQueue};
     FeedUpdaterEnvironment environment{desktop.httpClient, desktop.mainQueue, store,   desktop.alerts,
                                        desktop.workspace,  desktop.dates,     address, "1.2"};
     std::optional<FeedUpdaterController> controller;

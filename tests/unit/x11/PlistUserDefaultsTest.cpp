@@ -259,9 +259,13 @@ TEST_F(PlistUserDefaultsTest, AChangeByAnotherProgramIsTakenOver)
     auto defaults = open();
     defaults.setObject("a", integer(1));
     write(head + "<key>a</key><integer>2</integer>" + tail);
+    int changes = 0;
+    const auto observation = defaults.observeForeignChanges([&] { ++changes; });
     EXPECT_THAT(defaults.reload(), ElementsAre("a"));
     EXPECT_EQ(defaults.object("a"), integer(2));
+    EXPECT_EQ(changes, 1);
     EXPECT_THAT(defaults.reload(), IsEmpty());
+    EXPECT_EQ(changes, 1);
 }
 
 TEST_F(PlistUserDefaultsTest, OnlyWhatAnotherProgramAddedChangedOrRemovedIsNamed)

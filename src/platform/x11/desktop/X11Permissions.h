@@ -16,6 +16,7 @@ public:
 
     // There is no list to enter and no place to open.
     void request(Permission) override {}
+    bool hasSettings(Permission) const override { return false; }
     bool openSettings(Permission) override { return false; }
 
 private:

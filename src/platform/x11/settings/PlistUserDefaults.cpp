@@ -72,7 +72,16 @@ std::set<std::string> PlistUserDefaults::reload()
     if (state == FileState::damaged) {
         reportOnce("is damaged; the settings in use stay", damage);
     }
-    return std::exchange(foreignChanges, {});
+    auto changes = std::exchange(foreignChanges, {});
+    if (!changes.empty()) {
+        foreignChange.emit();
+    }
+    return changes;
+}
+
+Subscription PlistUserDefaults::observeForeignChanges(std::function<void()> changed)
+{
+    return foreignChange.observe(std::move(changed));
 }
 
 void PlistUserDefaults::read()

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Signal.h"
 #include "platform/UserDefaults.h"
 #include "platform/x11/settings/PropertyList.h"
 #include "platform/x11/settings/SettingsFile.h"
@@ -29,6 +30,7 @@ public:
     std::optional<PropertyValue> object(std::string_view key) const override;
     void setObject(std::string_view key, PropertyValue value) override;
     void removeObject(std::string_view key) override;
+    Subscription observeForeignChanges(std::function<void()> changed) override;
 
     // Stores all of them in one step: a crash leaves either none or all in the file. Answers whether they are on disk.
     bool setObjects(const PropertyDictionary& objects);
@@ -59,6 +61,7 @@ private:
     std::string damage; // what is wrong with a damaged file
     std::string lastLine;
     std::set<std::string> foreignChanges; // keys
+    Signal<> foreignChange;
 };
 
 } // namespace quorvel::x11
