@@ -26,7 +26,7 @@ struct ColorControl {
     bool operator==(const ColorControl&) const = default;
 };
 
-// A slider with its value beside it. Sends a double on every movement: `minimum` plus a whole number of steps.
+// A slider with its value beside it. Sends a double of its range on every movement; the model moves it to a step.
 struct SliderControl {
     double value = 0.0; // within the range, though the setting may lie outside of it
     double minimum = 0.0;

@@ -9,17 +9,22 @@ class EventMonitors;
 class EventTaps;
 class HotKeys;
 class KeyboardLayout;
+class LoginItem;
 class MainQueue;
 class NotificationCenter;
 class OverlayWindows;
+class PreferencesUi;
 class Screens;
 class StatusBar;
 class TextMetrics;
+class Updater;
 class UserDefaults;
 class WindowList;
 class Workspace;
 
 namespace contract {
+
+class SessionVerbs;
 
 // The ports under test. One may be null only where its suite is not linked.
 struct ContractPorts {
@@ -39,6 +44,10 @@ struct ContractPorts {
     OverlayWindows* overlayWindows = nullptr;
     TextMetrics* textMetrics = nullptr;
     StatusBar* statusBar = nullptr;
+    PreferencesUi* preferencesUi = nullptr;
+    LoginItem* loginItem = nullptr;
+    Updater* updater = nullptr;
+    SessionVerbs* session = nullptr; // no port, but what the suites of the last three need
 };
 
 } // namespace contract

@@ -86,6 +86,7 @@ bool SimulatedWorkspace::open(std::string_view address)
 void SimulatedWorkspace::relaunch(std::function<void()> completion)
 {
     journal.record("Workspace.relaunch()");
+    secondInstances += relaunchesFail ? 0 : 1;
     mainQueue.async(std::move(completion));
 }
 

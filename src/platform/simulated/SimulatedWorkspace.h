@@ -29,6 +29,10 @@ public:
     const std::vector<std::string>& openedAddresses() const { return opened; }
     std::size_t terminationRequests() const { return terminations; }
 
+    // Second instances that came up.
+    std::size_t relaunches() const { return secondInstances; }
+    void failRelaunches() { relaunchesFail = true; }
+
 private:
     std::optional<RunningApplication> find(ProcessId process) const;
 
@@ -37,6 +41,8 @@ private:
     SimulatedWindowServer& windowServer;
     std::vector<std::string> opened;
     std::size_t terminations = 0;
+    std::size_t secondInstances = 0;
+    bool relaunchesFail = false;
 };
 
 } // namespace quorvel

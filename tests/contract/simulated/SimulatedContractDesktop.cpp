@@ -25,7 +25,11 @@ ContractPorts SimulatedContractDesktop::ports()
             .eventMonitors = &desktop.eventMonitors,
             .overlayWindows = &desktop.overlayWindows,
             .textMetrics = &desktop.textMetrics,
-            .statusBar = &desktop.statusBar};
+            .statusBar = &desktop.statusBar,
+            .preferencesUi = &desktop.preferencesUi,
+            .loginItem = &desktop.loginItem,
+            .updater = &desktop.updater,
+            .session = &session};
 }
 
 bool SimulatedContractDesktop::can(Capability capability) const

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "contract/ContractDesktop.h"
+#include "contract/simulated/SimulatedSessionVerbs.h"
 #include "platform/simulated/SimulatedDesktop.h"
 
 namespace quorvel::contract {
@@ -43,6 +44,7 @@ private:
     SimulatedWindow& find(const ContractWindow& window);
 
     SimulatedDesktop desktop;
+    SimulatedSessionVerbs session{desktop};
     std::map<std::string, SimulatedApplication*> applications;
     std::map<std::uint64_t, SimulatedWindow*> windows;
 };

@@ -92,6 +92,50 @@ TEST(SimulatedWorkspace, ARelaunchCompletesLater)
     EXPECT_EQ(completions, 1);
 }
 
+TEST(SimulatedWorkspace, ARelaunchThatFailsCompletesAllTheSame)
+{
+    SimulatedDesktop desktop;
+    int completions = 0;
+    desktop.workspace.relaunch([&] { ++completions; });
+    desktop.workspace.failRelaunches();
+    desktop.workspace.relaunch([&] { ++completions; });
+    desktop.drain();
+
+    EXPECT_EQ(completions, 2);
+    EXPECT_EQ(desktop.workspace.relaunches(), 1U);
+}
+
+TEST(SimulatedUserDefaults, OnlyAChangeByOthersIsAnnouncedAndLater)
+{
+    SimulatedDesktop desktop;
+    int changes = 0;
+    auto observation = desktop.userDefaults.observeForeignChanges([&] { ++changes; });
+    desktop.userDefaults.setObject("key", {true});
+    desktop.drain();
+    EXPECT_EQ(changes, 0);
+
+    desktop.userDefaults.changeFromOutside("key", {false});
+    EXPECT_EQ(desktop.userDefaults.object("key"), PropertyValue{false});
+    EXPECT_EQ(changes, 0);
+    desktop.drain();
+    EXPECT_EQ(changes, 1);
+
+    observation.reset();
+    desktop.userDefaults.changeFromOutside("key", {true});
+    desktop.drain();
+    EXPECT_EQ(changes, 1);
+}
+
+TEST(SimulatedLoginItem, ARefusalKeepsTheStatus)
+{
+    SimulatedDesktop desktop;
+    desktop.loginItem.setStatus(LoginItemStatus::enabled);
+    desktop.loginItem.refuse("No.");
+    EXPECT_EQ(desktop.loginItem.unregisterItem().error(), "No.");
+    EXPECT_EQ(desktop.loginItem.registerItem().error(), "No.");
+    EXPECT_EQ(desktop.loginItem.status(), LoginItemStatus::enabled);
+}
+
 TEST(SimulatedUpdater, ControllersAndTheirChecksStandInTheJournal)
 {
     SimulatedDesktop desktop;

@@ -100,12 +100,23 @@ TEST_F(PermissionsOnboardingTest, TheAlertsReadAsAPersonExpects)
     EXPECT_EQ(desktop.alerts.shown(), expected);
 }
 
-TEST_F(PermissionsOnboardingTest, AnAlertComesToTheFront)
+TEST_F(PermissionsOnboardingTest, EveryAlertComesToTheFront)
 {
     desktop.permissions.deny(Permission::accessibility);
+    desktop.permissions.deny(Permission::inputMonitoring);
+    answer(openSettings);
+    answer(openSettings);
     onboarding->run();
-    EXPECT_EQ(desktop.journal.entries({"Workspace", "Alerts"}),
-              (std::vector<std::string>{"Workspace.activateSelf()", std::string("Alerts.runModal(") + step1 + ")"}));
+    desktop.permissions.grant(Permission::accessibility);
+    desktop.advance(1.0);
+    desktop.permissions.grant(Permission::inputMonitoring);
+    desktop.advance(1.0);
+
+    std::vector<std::string> expected;
+    for (const std::string title : {step1, step2, restart}) {
+        expected.insert(expected.end(), {"Workspace.activateSelf()", "Alerts.runModal(" + title + ")"});
+    }
+    EXPECT_EQ(desktop.journal.entries({"Workspace", "Alerts"}), expected);
 }
 
 TEST_F(PermissionsOnboardingTest, AccessibilityIsRequestedAndItsSettingsAreOpened)
@@ -192,6 +203,43 @@ TEST_F(PermissionsOnboardingTest, RestartingStartsASecondInstanceAndEndsThisOneL
     EXPECT_EQ(terminationsAtRelaunch, 0U);
     EXPECT_EQ(desktop.journal.entries({"Workspace.relaunch", "Workspace.terminate"}),
               (std::vector<std::string>{"Workspace.relaunch()", "Workspace.terminate()"}));
+    EXPECT_EQ(allGrantedCount, 0);
+}
+
+TEST_F(PermissionsOnboardingTest, TheProgramEndsEvenIfNoSecondInstanceComesUp)
+{
+    desktop.workspace.failRelaunches();
+    desktop.permissions.deny(Permission::inputMonitoring);
+    answer(openSettings);
+    answer("Restart Now");
+    onboarding->run();
+    desktop.permissions.grant(Permission::inputMonitoring);
+    desktop.advance(1.0);
+    EXPECT_EQ(desktop.workspace.relaunches(), 0U);
+    EXPECT_EQ(desktop.workspace.terminationRequests(), 1U);
+}
+
+TEST_F(PermissionsOnboardingTest, TheStepsFollowEachOtherWithoutAClickOnceAPermissionIsThere)
+{
+    desktop.permissions.deny(Permission::accessibility);
+    desktop.permissions.deny(Permission::inputMonitoring);
+    answer(openSettings);
+    onboarding->run();
+    desktop.advance(2.0);
+    EXPECT_EQ(shownTitles(), (std::vector<std::string>{step1}));
+    desktop.permissions.grant(Permission::accessibility);
+    desktop.advance(1.0);
+    EXPECT_EQ(shownTitles(), (std::vector<std::string>{step1, step2}));
+}
+
+TEST_F(PermissionsOnboardingTest, AnAlertThatIsClosedCountsAsLater)
+{
+    desktop.permissions.deny(Permission::accessibility);
+    onboarding->run(); // nobody answers
+    EXPECT_EQ(shownTitles(), (std::vector<std::string>{step1}));
+    EXPECT_EQ(desktop.journal.count("Permissions.request"), 0U);
+    desktop.permissions.grant(Permission::accessibility);
+    desktop.advance(10.0);
     EXPECT_EQ(allGrantedCount, 0);
 }
 
