@@ -9,11 +9,13 @@ namespace quorvel {
 PreferencesContainerViewController::PreferencesContainerViewController(const Platform& platform,
                                                                        UpdaterController* updater)
     : general(platform, updater),
+      shortcuts(platform),
       layoutAppearance(platform),
       switcherAppearance(platform),
       moveResizeAppearance(platform),
       allTabs{
           {"General", "gearshape", &general, [this] { general.refresh(); }, {}},
+          {"Shortcuts", "keyboard", &shortcuts, {}, [this] { shortcuts.stopRecording(); }},
           {"Layout Appearance", "paintbrush", &layoutAppearance, {}, {}},
           {"Window Switcher Appearance",
            "switch.2",

@@ -9,6 +9,7 @@
 #include "preferences/AppearancePreferencesView.h"
 #include "preferences/GeneralPreferencesView.h"
 #include "preferences/MoveResizeAppearanceView.h"
+#include "preferences/ShortcutPreferencesView.h"
 #include "preferences/WindowSwitcherAppearanceView.h"
 
 namespace quorvel {
@@ -46,6 +47,7 @@ private:
     };
 
     GeneralPreferencesView general;
+    ShortcutPreferencesView shortcuts;
     AppearancePreferencesView layoutAppearance;
     WindowSwitcherAppearanceView switcherAppearance;
     MoveResizeAppearanceView moveResizeAppearance;

@@ -13,6 +13,7 @@
 #include "platform/KeyboardLayout.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
+#include "platform/UserDefaults.h"
 #include "preferences/ControlValues.h"
 #include "preferences/PaneButtons.h"
 #include "preferences/SettingRow.h"
@@ -124,8 +125,7 @@ ShortcutPreferencesView::ShortcutPreferencesView(const Platform& platform)
             std::make_unique<Row>(definition, ShortcutPreferencesViewModel(platform.eventMonitors, actions)));
         rows.back()->recordingChanges = rows.back()->model.observeRecording([this] { formChanged.emit(); });
     }
-    foreignChanges = platform.notificationCenter.observe(notificationNames::shortcutDidChange, noNotificationObject,
-                                                         [this] { formChanged.emit(); });
+    foreignChanges = platform.userDefaults.observeForeignChanges([this] { formChanged.emit(); });
 }
 
 Form ShortcutPreferencesView::form() const

@@ -1,9 +1,12 @@
 // Registering the global hot keys, and giving them up while the preferences are open.
 
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "app/MainController.h"
+#include "platform/FormModel.h"
+#include "platform/simulated/SimulatedPreferencesWindow.h"
 #include "settings/Settings.h"
 #include "tests/support/FatalErrors.h"
 #include "tests/unit/app/AppFixture.h"
@@ -212,6 +215,23 @@ TEST_F(MainControllerShortcutsTest, ClosingPreferencesResumesTwice)
     EXPECT_EQ(linesBeginningWith("Preferences window will close; resuming shortcuts").size(), 1U);
     EXPECT_EQ(registered().size(), 3U);
     EXPECT_EQ(lastLine(), "Registered hotkey id=3 keyCode=3 modifiers=768");
+}
+
+TEST_F(MainControllerShortcutsTest, AShortcutRecordedInThePreferencesIsRegisteredOnceTheyAreClosed)
+{
+    launch();
+    controller().openPreferences();
+    auto& model = desktop.preferencesUi.preferencesWindows().at(0)->model;
+    model.selectTab(1);
+    const auto shortcuts = std::get<FormModel*>(model.content().tabs.at(1).pane);
+    shortcuts->press("activateOverlayKeyCode.record");
+    desktop.press(40, eventFlags::command);
+    desktop.drain();
+    EXPECT_TRUE(registered().empty());
+    EXPECT_EQ(desktop.userDefaults.contents().at("activateOverlayKeyCode"), PropertyValue{std::int64_t{40}});
+
+    closePreferences();
+    EXPECT_EQ(registered().at(0), (SimulatedHotKeys::Combination{40, hotKeyModifiers::command}));
 }
 
 TEST_F(MainControllerShortcutsTest, EachOpeningAddsAnotherPairOfObservers)

@@ -36,8 +36,9 @@ protected:
     std::optional<PreferencesWindowController> controller{std::in_place, platform, nullptr};
 };
 
-constexpr std::size_t layoutTab = 1;
-constexpr std::size_t switcherTab = 2;
+constexpr std::size_t shortcutsTab = 1;
+constexpr std::size_t layoutTab = 2;
+constexpr std::size_t switcherTab = 3;
 
 TEST_F(PreferencesWindowControllerTest, TheWindowHasItsTitleSizesAndIcon)
 {
@@ -54,9 +55,9 @@ TEST_F(PreferencesWindowControllerTest, TheTabsStandInOrderWithTheirSymbols)
     for (const auto& tab : controller->content().tabs) {
         tabs.push_back(tab.title + ": " + tab.symbol);
     }
-    EXPECT_EQ(tabs,
-              (Lines{"General: gearshape", "Layout Appearance: paintbrush", "Window Switcher Appearance: switch.2",
-                     "Move/Resize Appearance: arrow.up.left.and.arrow.down.right"}));
+    EXPECT_EQ(tabs, (Lines{"General: gearshape", "Shortcuts: keyboard", "Layout Appearance: paintbrush",
+                           "Window Switcher Appearance: switch.2",
+                           "Move/Resize Appearance: arrow.up.left.and.arrow.down.right"}));
     EXPECT_EQ(controller->selectedTab(), 0U);
 }
 
@@ -149,6 +150,24 @@ TEST_F(PreferencesWindowControllerTest, TheLayoutPanesGridStays)
     window().close();
     controller->showWindow();
     EXPECT_TRUE(showsGrid(layoutTab));
+}
+
+TEST_F(PreferencesWindowControllerTest, ARecordingEndsWhenItsPaneGoesOutOfSight)
+{
+    const auto record = [&] {
+        std::get<FormModel*>(controller->content().tabs.at(shortcutsTab).pane)->press("activateOverlayKeyCode.record");
+    };
+    controller->showWindow();
+    controller->selectTab(shortcutsTab);
+    record();
+    EXPECT_EQ(desktop.eventMonitors.keyMonitorCount(), 1U);
+    controller->selectTab(0);
+    EXPECT_EQ(desktop.eventMonitors.keyMonitorCount(), 0U);
+
+    controller->selectTab(shortcutsTab);
+    record();
+    window().close();
+    EXPECT_EQ(desktop.eventMonitors.keyMonitorCount(), 0U);
 }
 
 TEST_F(PreferencesWindowControllerTest, PermissionsAreReadWhenTheirPaneAppears)

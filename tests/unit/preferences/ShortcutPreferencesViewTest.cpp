@@ -321,7 +321,7 @@ TEST_F(ShortcutPreferencesViewTest, EveryChangeIsAnnounced)
     EXPECT_TRUE(tookNotice());
     desktop.drain();
     changes = 0;
-    desktop.notificationCenter.post(notificationNames::shortcutDidChange, noNotificationObject);
+    desktop.userDefaults.changeFromOutside("fsPopupPosition", {std::string("top")});
     desktop.drain();
     EXPECT_TRUE(tookNotice());
 }

@@ -74,14 +74,14 @@ std::set<std::string> PlistUserDefaults::reload()
     }
     auto changes = std::exchange(foreignChanges, {});
     if (!changes.empty()) {
-        foreignChange.emit();
+        changedByOthers.emit();
     }
     return changes;
 }
 
 Subscription PlistUserDefaults::observeForeignChanges(std::function<void()> changed)
 {
-    return foreignChange.observe(std::move(changed));
+    return changedByOthers.observe(std::move(changed));
 }
 
 void PlistUserDefaults::read()

@@ -61,7 +61,7 @@ private:
     std::string damage; // what is wrong with a damaged file
     std::string lastLine;
     std::set<std::string> foreignChanges; // keys
-    Signal<> foreignChange;
+    Signal<> changedByOthers;
 };
 
 } // namespace quorvel::x11
