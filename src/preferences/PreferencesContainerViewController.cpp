@@ -3,6 +3,8 @@
 #include <string>
 
 #include "base/FatalError.h"
+#include "platform/Platform.h"
+#include "platform/UserDefaults.h"
 
 namespace quorvel {
 
@@ -13,6 +15,7 @@ PreferencesContainerViewController::PreferencesContainerViewController(const Pla
       layoutAppearance(platform),
       switcherAppearance(platform),
       moveResizeAppearance(platform),
+      layouts(platform),
       allTabs{
           {"General", "gearshape", &general, [this] { general.refresh(); }, {}},
           {"Shortcuts", "keyboard", &shortcuts, {}, [this] { shortcuts.stopRecording(); }},
@@ -23,7 +26,9 @@ PreferencesContainerViewController::PreferencesContainerViewController(const Pla
            [this] { switcherAppearance.paneWillAppear(); },
            {}},
           {"Move/Resize Appearance", "arrow.up.left.and.arrow.down.right", &moveResizeAppearance, {}, {}},
-      }
+          {"Layouts", "square.grid.2x2", &layouts, [this] { layouts.reload(); }, {}},
+      },
+      foreignChanges(platform.userDefaults.observeForeignChanges([this] { layouts.reload(); }))
 {}
 
 std::vector<PreferencesTab> PreferencesContainerViewController::tabs()

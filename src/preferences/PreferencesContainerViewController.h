@@ -8,6 +8,7 @@
 #include "platform/PreferencesWindowModel.h"
 #include "preferences/AppearancePreferencesView.h"
 #include "preferences/GeneralPreferencesView.h"
+#include "preferences/LayoutsPreferencesViewController.h"
 #include "preferences/MoveResizeAppearanceView.h"
 #include "preferences/ShortcutPreferencesView.h"
 #include "preferences/WindowSwitcherAppearanceView.h"
@@ -51,9 +52,11 @@ private:
     AppearancePreferencesView layoutAppearance;
     WindowSwitcherAppearanceView switcherAppearance;
     MoveResizeAppearanceView moveResizeAppearance;
+    LayoutsPreferencesViewController layouts;
     std::vector<Tab> allTabs;
     std::size_t selected = 0;
     bool isSeen = false;
+    Subscription foreignChanges;
 };
 
 } // namespace quorvel

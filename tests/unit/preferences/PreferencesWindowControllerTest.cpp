@@ -9,6 +9,7 @@
 #include "platform/simulated/SimulatedDesktop.h"
 #include "platform/simulated/SimulatedPreferencesWindow.h"
 #include "tests/support/FatalErrors.h"
+#include "tests/unit/layouts/CatalogueFixture.h"
 #include "tests/unit/preferences/FormReading.h"
 
 namespace quorvel {
@@ -39,6 +40,7 @@ protected:
 constexpr std::size_t shortcutsTab = 1;
 constexpr std::size_t layoutTab = 2;
 constexpr std::size_t switcherTab = 3;
+constexpr std::size_t layoutsTab = 5;
 
 TEST_F(PreferencesWindowControllerTest, TheWindowHasItsTitleSizesAndIcon)
 {
@@ -57,7 +59,7 @@ TEST_F(PreferencesWindowControllerTest, TheTabsStandInOrderWithTheirSymbols)
     }
     EXPECT_EQ(tabs, (Lines{"General: gearshape", "Shortcuts: keyboard", "Layout Appearance: paintbrush",
                            "Window Switcher Appearance: switch.2",
-                           "Move/Resize Appearance: arrow.up.left.and.arrow.down.right"}));
+                           "Move/Resize Appearance: arrow.up.left.and.arrow.down.right", "Layouts: square.grid.2x2"}));
     EXPECT_EQ(controller->selectedTab(), 0U);
 }
 
@@ -168,6 +170,17 @@ TEST_F(PreferencesWindowControllerTest, ARecordingEndsWhenItsPaneGoesOutOfSight)
     record();
     window().close();
     EXPECT_EQ(desktop.eventMonitors.keyMonitorCount(), 0U);
+}
+
+TEST_F(PreferencesWindowControllerTest, TheLayoutsPaneFollowsWhatAnotherProgramSelects)
+{
+    desktop.bundle.addResource("layouts", "json", std::string(sevenLayouts));
+    controller->showWindow();
+    auto& layouts = *std::get<LayoutsPaneModel*>(controller->content().tabs.at(layoutsTab).pane);
+    EXPECT_TRUE(layouts.content().selected.empty());
+    desktop.userDefaults.changeFromOutside("selectedLayoutIDs", {PropertyArray{{std::string("centered")}}});
+    desktop.drain();
+    EXPECT_EQ(layouts.content().selected.size(), 1U);
 }
 
 TEST_F(PreferencesWindowControllerTest, PermissionsAreReadWhenTheirPaneAppears)
