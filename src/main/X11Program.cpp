@@ -20,10 +20,21 @@ void reportProblem(std::string_view line)
     fmt::print(stderr, "{}\n", line);
 }
 
+// Also where the file has been replaced by that of a newer version since.
+std::string programFile()
+{
+    constexpr std::string_view replaced = " (deleted)";
+    std::string file = std::filesystem::read_symlink("/proc/self/exe").string();
+    if (file.ends_with(replaced)) {
+        file.resize(file.size() - replaced.size());
+    }
+    return file;
+}
+
 // Starts this program anew; the new one waits until this one has ended.
 std::vector<std::string> relaunchCommand()
 {
-    return {std::filesystem::read_symlink("/proc/self/exe").string(), "--replace"};
+    return {programFile(), "--replace"};
 }
 
 } // namespace
@@ -45,6 +56,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
       toolkit(x11::ToolkitModule::standardFile(), {}),
       statusBar(*display.connection, bundle, toolkit),
       alerts(bundle, toolkit),
+      loginItem(x11::AutostartPlaces::standard(programFile())),
       feedUpdates(FeedUpdates::make({loop, alerts, windows.workspace, dates, bundle}, reportProblem)),
       platform{
           .log = log,
@@ -68,6 +80,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
           .permissions = permissions,
           .alerts = alerts,
           .updater = feedUpdates ? &feedUpdates->updater() : nullptr,
+          .loginItem = &loginItem,
           .focusesExactWindow = true,
       },
       endingSignals(subscribeToEndingSignals()),

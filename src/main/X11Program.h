@@ -17,6 +17,7 @@
 #include "platform/x11/desktop/X11Alerts.h"
 #include "platform/x11/desktop/X11Bundle.h"
 #include "platform/x11/desktop/X11Dates.h"
+#include "platform/x11/desktop/X11LoginItem.h"
 #include "platform/x11/desktop/X11Permissions.h"
 #include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/desktop/X11SystemColors.h"
@@ -65,6 +66,7 @@ private:
     x11::ToolkitModule toolkit;
     x11::X11StatusBar statusBar;
     x11::X11Alerts alerts;
+    x11::X11LoginItem loginItem;
     std::unique_ptr<FeedUpdates> feedUpdates; // null where this build has no feed
 
     Platform platform;

@@ -52,6 +52,10 @@ X11ContractDesktop::X11ContractDesktop()
       menus(loop.mainLoop()),
       statusBar(*connection, bundle, menus),
       userDefaults(openUserDefaults()),
+      alerts(bundle, menus),
+      loginItem({files.path() / "autostart", {}, "/bin/true"}),
+      updater(openUpdater()),
+      session(display.client, files.path() / "autostart", [this] { return openUpdater(); }),
       person(display.server, display.keyboard, *keyboard),
       probe(display.server, {})
 {
@@ -77,7 +81,10 @@ ContractPorts X11ContractDesktop::ports()
             .eventMonitors = &keys.eventMonitors,
             .overlayWindows = &overlays,
             .textMetrics = &textMetrics,
-            .statusBar = &statusBar};
+            .statusBar = &statusBar,
+            .loginItem = &loginItem,
+            .updater = updater.get(),
+            .session = &session};
 }
 
 bool X11ContractDesktop::can(Capability capability) const
@@ -291,6 +298,12 @@ std::unique_ptr<x11::PlistUserDefaults> X11ContractDesktop::openUserDefaults()
 {
     return std::make_unique<x11::PlistUserDefaults>(x11::SettingsFile(files.path() / "settings.plist"),
                                                     [](std::string_view line) { ADD_FAILURE() << line; });
+}
+
+std::unique_ptr<Updater> X11ContractDesktop::openUpdater()
+{
+    return std::make_unique<ContractUpdater>(ContractUpdater::Ports{loop.mainLoop(), alerts, windows.workspace, dates},
+                                             files.path() / "updates.plist");
 }
 
 // There are no permissions to take away.

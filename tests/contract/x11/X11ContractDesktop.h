@@ -9,11 +9,15 @@
 #include "contract/x11/ContractKeyboard.h"
 #include "contract/x11/ContractMenus.h"
 #include "contract/x11/ContractTray.h"
+#include "contract/x11/ContractUpdater.h"
+#include "contract/x11/X11SessionVerbs.h"
 #include "platform/LocalNotificationCenter.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
+#include "platform/x11/desktop/X11Alerts.h"
 #include "platform/x11/desktop/X11Bundle.h"
 #include "platform/x11/desktop/X11Dates.h"
+#include "platform/x11/desktop/X11LoginItem.h"
 #include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/keys/KeyAdapters.h"
 #include "platform/x11/keys/Keyboard.h"
@@ -70,6 +74,7 @@ private:
     void waitForWindowManager();
     std::vector<std::filesystem::path> resourceDirectories() const;
     std::unique_ptr<x11::PlistUserDefaults> openUserDefaults();
+    std::unique_ptr<Updater> openUpdater();
 
     xtest::TestDisplay display;
     xtest::TemporaryDirectory files;
@@ -91,6 +96,10 @@ private:
     x11::X11StatusBar statusBar;
     std::unique_ptr<x11::PlistUserDefaults> userDefaults;
     std::unique_ptr<x11::PlistUserDefaults> laterUserDefaults;
+    x11::X11Alerts alerts;
+    x11::X11LoginItem loginItem;
+    std::unique_ptr<Updater> updater;
+    X11SessionVerbs session;
 
     ContractKeyboard person;
     std::map<std::string, std::unique_ptr<ContractApplication>> applications;
