@@ -17,14 +17,17 @@ ManyWindows::ManyWindows(BenchDesktop& desktop, std::size_t count)
     }
     const auto& screen = *xcb_setup_roots_iterator(xcb_get_setup(link.get())).data;
     auto& probe = desktop.eventProbe();
+    const auto wanted = probe.visibleCount() + count;
     for (std::size_t index = 0; index < count; ++index) {
-        const auto before = probe.visibleCount();
         open(index, screen);
-        if (!probe.waitFor([&] { return probe.visibleCount() > before; })) {
-            throw xtest::HarnessError("a window did not open");
-        }
     }
-    probe.rest();
+    const auto areOpen = [&] {
+        probe.rest();
+        return probe.visibleCount() >= wanted;
+    };
+    if (!probe.waitFor(areOpen)) {
+        throw xtest::HarnessError("not all windows opened");
+    }
 }
 
 void ManyWindows::open(std::size_t index, const xcb_screen_t& screen)
