@@ -53,11 +53,12 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
                      *display.graphics, textLayouts),
       systemColors(x11::X11SystemColors::plasmaSettingsFile()),
       permissions(*display.connection),
-      toolkit(x11::ToolkitModule::standardFile(), {}),
+      toolkit(x11::ToolkitModule::standardFile(), {}, toolkitHost()),
       statusBar(*display.connection, bundle, toolkit),
       alerts(bundle, toolkit),
       loginItem(x11::AutostartPlaces::standard(programFile())),
       feedUpdates(FeedUpdates::make({loop, alerts, windows.workspace, dates, bundle}, reportProblem)),
+      preferencesUi(toolkit, notificationCenter),
       platform{
           .log = log,
           .mainQueue = loop,
@@ -79,6 +80,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
           .statusBar = statusBar,
           .permissions = permissions,
           .alerts = alerts,
+          .preferencesUi = &preferencesUi,
           .updater = feedUpdates ? &feedUpdates->updater() : nullptr,
           .loginItem = &loginItem,
           .focusesExactWindow = true,
@@ -110,6 +112,17 @@ std::vector<Subscription> X11Program::subscribeToEndingSignals()
         signals.push_back(x11::onUnixSignal(number, [this] { quit(); }));
     }
     return signals;
+}
+
+x11::ToolkitHost X11Program::toolkitHost()
+{
+    return {
+        .imageFile = [this](std::string_view name, int pixels) { return bundle.imageFile(name, pixels); },
+        .activate = [this](std::uint32_t window) { windows.windowManager.activate(window); },
+        .keyDown = [this](std::uint8_t keycode,
+                          std::uint16_t state) { return keys.eventMonitors.reportLocalKeyDown(keycode, state); },
+        .textLayouts = textLayouts,
+    };
 }
 
 void X11Program::settingsMayHaveChanged()

@@ -19,6 +19,7 @@
 #include "platform/x11/desktop/X11Dates.h"
 #include "platform/x11/desktop/X11LoginItem.h"
 #include "platform/x11/desktop/X11Permissions.h"
+#include "platform/x11/desktop/X11PreferencesUi.h"
 #include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/desktop/X11SystemColors.h"
 #include "platform/x11/keys/KeyAdapters.h"
@@ -47,6 +48,7 @@ private:
     void quit() { loop.quit(0); }
     std::vector<Subscription> subscribeToEndingSignals();
     void settingsMayHaveChanged();
+    x11::ToolkitHost toolkitHost();
 
     x11::GlibMainLoop& loop;
     X11Display display;
@@ -68,6 +70,7 @@ private:
     x11::X11Alerts alerts;
     x11::X11LoginItem loginItem;
     std::unique_ptr<FeedUpdates> feedUpdates; // null where this build has no feed
+    x11::X11PreferencesUi preferencesUi;
 
     Platform platform;
     std::vector<Subscription> endingSignals; // first, so that a program that is still starting ends in good order, too

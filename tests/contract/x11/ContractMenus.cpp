@@ -29,4 +29,15 @@ std::size_t ContractMenus::runAlert(const Alert& /*alert*/, const std::filesyste
     fatalError("No suite shows an alert");
 }
 
+std::unique_ptr<x11::ToolkitWindow> ContractMenus::createPreferencesWindow(PreferencesWindowModel&,
+                                                                           x11::ToolkitWindowCallbacks)
+{
+    return nullptr;
+}
+
+std::unique_ptr<x11::ToolkitWindow> ContractMenus::createAboutWindow(const AboutContent&)
+{
+    return nullptr;
+}
+
 } // namespace quorvel::contract

@@ -20,6 +20,9 @@ public:
 
     void openMenu(const Menu& menu, std::function<void(MenuCommand)> onCommand) override;
     std::size_t runAlert(const Alert& alert, const std::filesystem::path& icon) override;
+    std::unique_ptr<x11::ToolkitWindow> createPreferencesWindow(PreferencesWindowModel& model,
+                                                                x11::ToolkitWindowCallbacks callbacks) override;
+    std::unique_ptr<x11::ToolkitWindow> createAboutWindow(const AboutContent& content) override;
 
 private:
     struct OpenMenu {

@@ -101,6 +101,7 @@ TEST(Placement, OfABoundWindowBeginsWithTheEndOfThatState)
     for (const auto state : {&WindowSnapshot::isMaximized, &WindowSnapshot::isFullscreen}) {
         auto bound = away;
         bound.*state = true;
+        bound.frame = {};
         Placement placement(wanted, Anchor::frame);
         const auto first = placement.begin(bound);
         EXPECT_TRUE(first.leavesState);
@@ -110,7 +111,32 @@ TEST(Placement, OfABoundWindowBeginsWithTheEndOfThatState)
     }
 }
 
-TEST(Placement, OfAWindowThatStaysBoundAsksForBothAgain)
+TEST(Placement, OfAFullscreenWindowWaitsForItsFrame)
+{
+    auto covering = away;
+    covering.isFullscreen = true;
+    covering.frame = {};
+    auto bare = covering;
+    bare.isFullscreen = false;
+    Placement placement(wanted, Anchor::frame);
+    placement.begin(covering);
+    EXPECT_TRUE(placement.reconsider(bare).isEmpty());
+    EXPECT_EQ(placement.reconsider(away).geometry, request);
+}
+
+TEST(Placement, OfAFullscreenWindowWithoutAFrameGoesOnOnceAllIsQuiet)
+{
+    auto bare = away;
+    bare.frame = {};
+    auto covering = bare;
+    covering.isFullscreen = true;
+    Placement placement(wanted, Anchor::frame);
+    placement.begin(covering);
+    EXPECT_TRUE(placement.reconsider(bare).isEmpty());
+    EXPECT_TRUE(placement.settle(bare).geometry);
+}
+
+TEST(Placement, OfAWindowThatStaysBoundAsksForTheEndOfThatStateAgain)
 {
     auto bound = away;
     bound.isMaximized = true;
@@ -118,7 +144,8 @@ TEST(Placement, OfAWindowThatStaysBoundAsksForBothAgain)
     placement.begin(bound);
     const auto second = placement.settle(bound);
     EXPECT_TRUE(second.leavesState);
-    EXPECT_EQ(second.geometry, request);
+    EXPECT_FALSE(second.geometry);
+    EXPECT_EQ(placement.reconsider(away).geometry, request);
 }
 
 TEST(Placement, IsReconsideredOnlyWhereTheFrameHasChanged)

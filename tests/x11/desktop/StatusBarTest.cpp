@@ -17,6 +17,11 @@ public:
     }
 
     std::size_t runAlert(const Alert&, const std::filesystem::path&) override { return 0; }
+    std::unique_ptr<ToolkitWindow> createPreferencesWindow(PreferencesWindowModel&, ToolkitWindowCallbacks) override
+    {
+        return nullptr;
+    }
+    std::unique_ptr<ToolkitWindow> createAboutWindow(const AboutContent&) override { return nullptr; }
 
     std::vector<Menu> opened;
     std::function<void(MenuCommand)> choose;

@@ -1,6 +1,7 @@
 #include "platform/x11/desktop/ToolkitModule.h"
 
 #include "platform/x11/desktop/X11Alerts.h"
+#include "platform/x11/painting/TextLayouts.h"
 #include "support/Patience.h"
 #include "x11/desktop/DesktopTest.h"
 
@@ -20,7 +21,14 @@ protected:
         return windows;
     }
 
-    ToolkitModule toolkit{ToolkitModule::standardFile(), display.server.display()};
+    TextLayouts textLayouts{"sans"};
+    ToolkitModule toolkit{
+        ToolkitModule::standardFile(),
+        display.server.display(),
+        {.imageFile = [this](std::string_view name, int pixels) { return bundle.imageFile(name, pixels); },
+         .activate = [](std::uint32_t) {},
+         .keyDown = [](std::uint8_t, std::uint16_t) { return EventHandling::pass; },
+         .textLayouts = textLayouts}};
     X11Alerts alerts{bundle, toolkit};
 };
 
@@ -76,7 +84,9 @@ TEST_F(ToolkitModuleTest, ShowsMenusAndAlertsUnderTheProgramsOwnLoop)
 
 TEST(ToolkitModule, WithoutItsFileAlertsAreAnsweredByTheLastButton)
 {
-    ToolkitModule toolkit("/nonexistent/quorvel-qt.so", "");
+    const TextLayouts textLayouts("sans");
+    ToolkitModule toolkit("/nonexistent/quorvel-qt.so", "",
+                          {.imageFile = {}, .activate = {}, .keyDown = {}, .textLayouts = textLayouts});
     testing::internal::CaptureStderr();
     Alert alert;
     alert.buttons = {"Open", "Later"};
@@ -84,7 +94,7 @@ TEST(ToolkitModule, WithoutItsFileAlertsAreAnsweredByTheLastButton)
     EXPECT_EQ(toolkit.runAlert({}, {}), 0U);
     toolkit.openMenu({}, [](MenuCommand) {});
     const auto output = testing::internal::GetCapturedStderr();
-    EXPECT_THAT(output, testing::StartsWith("Menus and alerts cannot be shown: "));
+    EXPECT_THAT(output, testing::StartsWith("Menus, windows and alerts cannot be shown: "));
     EXPECT_EQ(std::ranges::count(output, '\n'), 1);
     EXPECT_FALSE(toolkit.isLoaded());
 }

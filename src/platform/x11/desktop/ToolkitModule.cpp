@@ -11,8 +11,8 @@
 
 namespace quorvel::x11 {
 
-ToolkitModule::ToolkitModule(std::filesystem::path file, std::string displayName)
-    : file(std::move(file)), displayName(std::move(displayName))
+ToolkitModule::ToolkitModule(std::filesystem::path file, std::string displayName, ToolkitHost host)
+    : file(std::move(file)), displayName(std::move(displayName)), host(std::move(host))
 {}
 
 std::filesystem::path ToolkitModule::standardFile()
@@ -37,6 +37,19 @@ std::size_t ToolkitModule::runAlert(const Alert& alert, const std::filesystem::p
     return alert.buttons.empty() ? 0 : alert.buttons.size() - 1;
 }
 
+std::unique_ptr<ToolkitWindow> ToolkitModule::createPreferencesWindow(PreferencesWindowModel& model,
+                                                                      ToolkitWindowCallbacks callbacks)
+{
+    auto* const ui = loaded();
+    return ui != nullptr ? ui->createPreferencesWindow(model, std::move(callbacks)) : nullptr;
+}
+
+std::unique_ptr<ToolkitWindow> ToolkitModule::createAboutWindow(const AboutContent& content)
+{
+    auto* const ui = loaded();
+    return ui != nullptr ? ui->createAboutWindow(content) : nullptr;
+}
+
 ToolkitUi* ToolkitModule::loaded()
 {
     if (std::exchange(state, State::tried) == State::untried) {
@@ -50,15 +63,16 @@ std::unique_ptr<ToolkitUi> ToolkitModule::load() const
     // Never unloaded: Qt leaves threads and exit handlers behind.
     void* const module = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (module == nullptr) {
-        fmt::print(stderr, "Menus and alerts cannot be shown: {}\n", dlerror());
+        fmt::print(stderr, "Menus, windows and alerts cannot be shown: {}\n", dlerror());
         return nullptr;
     }
     auto* const entry = reinterpret_cast<ToolkitEntry*>(dlsym(module, toolkitEntryName));
     if (entry == nullptr) {
-        fmt::print(stderr, "Menus and alerts cannot be shown: {} is not a module of this program.\n", file.string());
+        fmt::print(stderr, "Menus, windows and alerts cannot be shown: {} is not a module of this program.\n",
+                   file.string());
         return nullptr;
     }
-    return std::unique_ptr<ToolkitUi>(entry(displayName.c_str()));
+    return std::unique_ptr<ToolkitUi>(entry(displayName.c_str(), host));
 }
 
 } // namespace quorvel::x11

@@ -63,10 +63,14 @@ Subscription X11EventMonitors::addLocalKeyDownMonitor(std::function<EventHandlin
     });
 }
 
-EventHandling X11EventMonitors::reportLocalKeyDown(const KeyEvent& event) const
+EventHandling X11EventMonitors::reportLocalKeyDown(xcb_keycode_t keycode, KeyState state) const
 {
+    const KeyMapping& mapping = keyboard.mapping();
+    const auto keyCode = mapping.keyCode(keycode);
     auto handling = EventHandling::pass;
-    keyMonitors.emit(event, handling);
+    if (keyCode && !mapping.isModifier(keycode)) {
+        keyMonitors.emit({*keyCode, mapping.characters(keycode, state), mapping.flags(state)}, handling);
+    }
     return handling;
 }
 
@@ -96,11 +100,8 @@ void X11EventMonitors::handleGenericEvent(const xcb_ge_generic_event_t& event)
 
 void X11EventMonitors::handleKeyPress(const xcb_key_press_event_t& event)
 {
-    const KeyMapping& mapping = keyboard.mapping();
-    const auto keyCode = mapping.keyCode(event.detail);
-    const bool isLocal = event.event != connection.root();
-    if (isLocal && keyCode && !mapping.isModifier(event.detail)) {
-        reportLocalKeyDown({*keyCode, mapping.characters(event.detail, event.state), mapping.flags(event.state)});
+    if (event.event != connection.root()) {
+        reportLocalKeyDown(event.detail, event.state);
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include "base/Signal.h"
 #include "platform/EventMonitors.h"
+#include "platform/x11/keys/KeyMapping.h"
 
 namespace quorvel::x11 {
 
@@ -25,7 +26,7 @@ public:
 
     // Tells the monitors of a key-down in a window of this program that lives on another connection, such as a
     // toolkit's, and answers what is to become of it.
-    EventHandling reportLocalKeyDown(const KeyEvent& event) const;
+    EventHandling reportLocalKeyDown(xcb_keycode_t keycode, KeyState state) const;
 
 private:
     void handleGenericEvent(const xcb_ge_generic_event_t& event);

@@ -10,20 +10,13 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/x11/qt/QtAboutWindow.h"
+#include "platform/x11/qt/QtPreferencesWindow.h"
+#include "platform/x11/qt/QtText.h"
+
 namespace quorvel::x11 {
 
 namespace {
-
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-// Menus take "&" for the mark of a mnemonic.
-QString menuText(std::string_view title)
-{
-    return text(title).replace('&', "&&");
-}
 
 bool isSet(const char* variable)
 {
@@ -39,7 +32,7 @@ bool isPlasma()
 
 void addItem(QMenu& menu, const MenuItem& item, const std::function<void(MenuCommand)>& onCommand)
 {
-    auto* const action = menu.addAction(menuText(item.title));
+    auto* const action = menu.addAction(labelText(item.title));
     action->setEnabled(item.isEnabled);
     if (!item.keyEquivalent.empty()) {
         action->setShortcut(QKeySequence("Ctrl+" + text(item.keyEquivalent)));
@@ -66,17 +59,28 @@ QtToolkit::Arguments::Arguments(const char* displayName) : texts{"quorvel", "-pl
     count = static_cast<int>(texts.size());
 }
 
-QtToolkit::QtToolkit(const char* displayName)
-    : arguments(displayName), application(arguments.count, arguments.pointers.data())
+QtToolkit::QtToolkit(const char* displayName, const ToolkitHost& host)
+    : host(host), arguments(displayName), application(arguments.count, arguments.pointers.data()), keyDownFilter(host)
 {
     // Qt has taken over the user's locale as a whole; files hold numbers with a point all the same.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("quorvel");
-    QApplication::setApplicationDisplayName("Quorvel");
     QApplication::setQuitOnLastWindowClosed(false);
+    application.installNativeEventFilter(&keyDownFilter);
 }
 
 QtToolkit::~QtToolkit() = default;
+
+std::unique_ptr<ToolkitWindow> QtToolkit::createPreferencesWindow(PreferencesWindowModel& model,
+                                                                  ToolkitWindowCallbacks callbacks)
+{
+    return std::make_unique<QtPreferencesWindow>(model, host, std::move(callbacks));
+}
+
+std::unique_ptr<ToolkitWindow> QtToolkit::createAboutWindow(const AboutContent& content)
+{
+    return std::make_unique<QtAboutWindow>(content, host);
+}
 
 void QtToolkit::openMenu(const Menu& content, std::function<void(MenuCommand)> onCommand)
 {
@@ -94,6 +98,7 @@ void QtToolkit::openMenu(const Menu& content, std::function<void(MenuCommand)> o
 std::size_t QtToolkit::runAlert(const Alert& alert, const std::filesystem::path& icon)
 {
     QMessageBox box;
+    box.setWindowTitle("Quorvel");
     box.setTextFormat(Qt::RichText);
     box.setText("<b>" + text(alert.messageText).toHtmlEscaped() + "</b>");
     box.setInformativeText(text(alert.informativeText));
@@ -111,7 +116,7 @@ std::size_t QtToolkit::runAlert(const Alert& alert, const std::filesystem::path&
     for (const auto& title : alert.buttons) {
         const bool isFirst = buttons.empty();
         auto* const button =
-            box.addButton(menuText(title), isFirst ? QMessageBox::AcceptRole : QMessageBox::RejectRole);
+            box.addButton(labelText(title), isFirst ? QMessageBox::AcceptRole : QMessageBox::RejectRole);
         if (isFirst) {
             box.setDefaultButton(button);
         }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/x11/desktop/ToolkitUi.h"
+#include "platform/x11/qt/KeyDownFilter.h"
 
 namespace quorvel::x11 {
 
@@ -14,11 +15,14 @@ namespace quorvel::x11 {
 // context, which that loop turns.
 class QtToolkit final : public ToolkitUi {
 public:
-    explicit QtToolkit(const char* displayName);
+    QtToolkit(const char* displayName, const ToolkitHost& host);
     ~QtToolkit() override;
 
     void openMenu(const Menu& menu, std::function<void(MenuCommand)> onCommand) override;
     std::size_t runAlert(const Alert& alert, const std::filesystem::path& icon) override;
+    std::unique_ptr<ToolkitWindow> createPreferencesWindow(PreferencesWindowModel& model,
+                                                           ToolkitWindowCallbacks callbacks) override;
+    std::unique_ptr<ToolkitWindow> createAboutWindow(const AboutContent& content) override;
 
 private:
     // Qt wants the arguments of a program, changes them, and keeps pointing at them.
@@ -30,8 +34,10 @@ private:
         int count = 0;
     };
 
+    const ToolkitHost& host;
     Arguments arguments;
     QApplication application;
+    KeyDownFilter keyDownFilter;
     std::unique_ptr<QMenu> menu; // the one that was opened last
 };
 

@@ -1,0 +1,267 @@
+#include "platform/x11/qt/FormPane.h"
+
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <ranges>
+
+#include "platform/x11/qt/FormShape.h"
+#include "platform/x11/qt/GroupFrame.h"
+#include "platform/x11/qt/ListSheetDialog.h"
+#include "platform/x11/qt/PaneAlertDialog.h"
+#include "platform/x11/qt/PaneButtons.h"
+#include "platform/x11/qt/PaneMetrics.h"
+#include "platform/x11/qt/QtText.h"
+
+namespace quorvel::x11 {
+
+namespace {
+
+QLabel* smallText(const std::string& content, QWidget* parent)
+{
+    auto* const label = new QLabel(text(content), parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setFont(paneMetrics::smallFont(label->font()));
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setVisible(!content.empty());
+    return label;
+}
+
+void showText(QLabel& label, const std::string& content)
+{
+    label.setText(text(content));
+    label.setVisible(!content.empty());
+}
+
+QScrollArea* scrolled(QWidget* content, QWidget* parent)
+{
+    auto* const area = new QScrollArea(parent);
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area->setFocusPolicy(Qt::NoFocus);
+    return area;
+}
+
+} // namespace
+
+FormPane::FormPane(FormModel& model, const ToolkitHost& host, QWidget* parent)
+    : QWidget(parent), model(model), host(host)
+{
+    auto* const box = new QVBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    refresh();
+    changes = model.observe([this] { scheduleRefresh(); });
+}
+
+FormPane::~FormPane() = default;
+
+// The model may change inside a call that a widget's own signal makes, and a refresh may replace that widget.
+void FormPane::scheduleRefresh()
+{
+    if (!isRefreshDue) {
+        isRefreshDue = true;
+        QTimer::singleShot(0, this, [this] {
+            isRefreshDue = false;
+            refresh();
+        });
+    }
+}
+
+void FormPane::refresh()
+{
+    const Form form = model.form();
+    if (body == nullptr || !hasSameShape(form, shown)) {
+        build(form);
+    }
+    showForm(form);
+    shown = form;
+    showOverlays(form);
+}
+
+void FormPane::build(const Form& form)
+{
+    std::string focused;
+    for (const auto& [id, row] : rows) {
+        if (row.control->isAncestorOf(focusWidget())) {
+            focused = id;
+        }
+    }
+    delete body;
+    rows.clear();
+    buttons.clear();
+
+    body = new QWidget(this);
+    auto* const box = new QVBoxLayout(body);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(0);
+
+    auto* const content = new QWidget(body);
+    auto* const column = new QVBoxLayout(content);
+    column->setContentsMargins(paneMetrics::margin, paneMetrics::margin, paneMetrics::margin, paneMetrics::margin);
+    column->setSpacing(paneMetrics::groupSpacing);
+    addGroups(form, *column);
+    column->addStretch(1);
+    box->addWidget(scrolled(content, body), 1);
+
+    for (const auto& group : form.groups) {
+        if (hasPreview(group)) {
+            auto* const line = new QHBoxLayout();
+            line->setContentsMargins(paneMetrics::margin, 0, paneMetrics::margin, 0);
+            line->addWidget(createGroup(group, body));
+            box->addLayout(line);
+        }
+    }
+    box->addWidget(createFoot(form));
+    layout()->addWidget(body);
+    body->show();
+    if (const auto row = rows.find(focused); row != rows.end()) {
+        row->second.control->setFocus();
+    }
+}
+
+void FormPane::addGroups(const Form& form, QBoxLayout& column)
+{
+    if (!form.note.empty()) {
+        column.addWidget(smallText(form.note, column.parentWidget()));
+    }
+    const auto columns = groupColumns(form);
+    auto* const line = new QHBoxLayout();
+    line->setSpacing(paneMetrics::columnSpacing);
+    for (const auto& groups : columns) {
+        auto* const holder = new QWidget(column.parentWidget());
+        auto* const box = new QVBoxLayout(holder);
+        box->setContentsMargins(0, 0, 0, 0);
+        box->setSpacing(paneMetrics::groupSpacing);
+        for (const std::size_t group : groups) {
+            box->addWidget(createGroup(form.groups[group], holder));
+        }
+        box->addStretch(1);
+        holder->setMaximumWidth(fontMetrics().averageCharWidth() * paneMetrics::widestColumnInCharacters);
+        line->addWidget(holder, 1);
+    }
+    column.addLayout(line);
+}
+
+QWidget* FormPane::createGroup(const FormGroup& group, QWidget* parent)
+{
+    auto* const whole = new QWidget(parent);
+    auto* const box = new QVBoxLayout(whole);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(paneMetrics::titleSpacing);
+    if (!group.title.empty()) {
+        auto* const title = new QLabel(text(group.title), whole);
+        title->setFont(paneMetrics::titleFont(title->font()));
+        box->addWidget(title);
+    }
+    auto* const frame = new GroupFrame(whole);
+    frame->setAccessibleName(text(group.title));
+    auto* const inner = new QVBoxLayout(frame);
+    inner->setContentsMargins(paneMetrics::cardMargin, paneMetrics::rowSpacing, paneMetrics::cardMargin,
+                              paneMetrics::rowSpacing);
+    inner->setSpacing(0);
+    for (const auto& row : group.rows) {
+        if (&row != &group.rows.front()) {
+            inner->addWidget(new Separator(frame));
+        }
+        addRow(row, *inner, frame);
+    }
+    box->addWidget(frame);
+    return whole;
+}
+
+void FormPane::addRow(const FormRow& row, QBoxLayout& box, QWidget* parent)
+{
+    auto* const whole = new QWidget(parent);
+    auto* const lines = new QVBoxLayout(whole);
+    lines->setContentsMargins(0, paneMetrics::rowSpacing / 2, 0, paneMetrics::rowSpacing / 2);
+    lines->setSpacing(0);
+
+    RowWidgets widgets;
+    constexpr int heightInLines = 2;
+    widgets.title = new QLabel(text(row.title), whole);
+    widgets.title->setMinimumHeight(heightInLines * fontMetrics().height() - paneMetrics::rowSpacing);
+    widgets.title->setTextFormat(Qt::PlainText);
+    widgets.control = createControlWidget({model, host}, row, whole);
+    widgets.help = smallText(row.help, whole);
+    widgets.title->setBuddy(widgets.control);
+
+    auto* const line = new QHBoxLayout();
+    line->setSpacing(paneMetrics::cardMargin);
+    if (row.title.empty()) {
+        widgets.title->hide();
+        line->addWidget(widgets.control, 0,
+                        std::holds_alternative<PreviewControl>(row.control) ? Qt::AlignHCenter : Qt::AlignLeft);
+    } else {
+        line->addWidget(widgets.title, 1);
+        line->addWidget(widgets.control, 0, Qt::AlignRight);
+    }
+    lines->addLayout(line);
+    lines->addWidget(widgets.help);
+    box.addWidget(whole);
+    rows[row.id] = widgets;
+}
+
+QWidget* FormPane::createFoot(const Form& form)
+{
+    auto* const foot = new QWidget(body);
+    auto* const line = new QHBoxLayout(foot);
+    line->setContentsMargins(paneMetrics::margin, paneMetrics::groupSpacing, paneMetrics::margin,
+                             paneMetrics::groupSpacing);
+    for (const auto& button : form.buttons) {
+        buttons.push_back(createPaneButton(button, [this](const std::string& id) { model.press(id); }, foot));
+        line->addWidget(buttons.back());
+    }
+    line->addStretch(1);
+    auto* const footnote = smallText(form.footnote, foot);
+    footnote->setWordWrap(false);
+    line->addWidget(footnote);
+    foot->setVisible(!form.buttons.empty() || !form.footnote.empty());
+    return foot;
+}
+
+void FormPane::showForm(const Form& form)
+{
+    for (const auto& group : form.groups) {
+        for (const auto& row : group.rows) {
+            const auto& widgets = rows.at(row.id);
+            widgets.title->setText(text(row.title));
+            widgets.title->setEnabled(row.isEnabled);
+            widgets.control->showRow(row);
+            showText(*widgets.help, row.help);
+        }
+    }
+    for (std::size_t index = 0; index < buttons.size(); ++index) {
+        showPaneButton(*buttons[index], form.buttons[index]);
+    }
+}
+
+void FormPane::showOverlays(const Form& form)
+{
+    const auto press = [this](const std::string& id) { model.press(id); };
+    if (!form.sheet) {
+        delete sheet;
+    } else if (sheet) {
+        sheet->showSheet(*form.sheet);
+    } else {
+        sheet = new ListSheetDialog(*form.sheet, press, window());
+        sheet->open();
+    }
+
+    if (!form.alert) {
+        delete alert;
+    } else if (!alert || !alert->isFor(*form.alert)) {
+        delete alert;
+        QWidget* const owner = sheet ? static_cast<QWidget*>(sheet) : window();
+        alert = new PaneAlertDialog(
+            *form.alert, press, [this](const std::string& id, const std::string& value) { model.set(id, value); },
+            owner);
+        alert->open();
+    }
+}
+
+} // namespace quorvel::x11

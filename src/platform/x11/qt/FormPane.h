@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QWidget>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "base/Subscription.h"
+#include "platform/FormModel.h"
+#include "platform/x11/qt/controls/FormControlWidget.h"
+
+namespace quorvel::x11 {
+
+class ListSheetDialog;
+class PaneAlertDialog;
+
+// A form with everything that lies over it. Its groups stand in one column or, where they are many, in two; a group
+// with a preview stays in sight under them while they scroll.
+class FormPane final : public QWidget {
+public:
+    FormPane(FormModel& model, const ToolkitHost& host, QWidget* parent = nullptr);
+    ~FormPane() override;
+
+private:
+    struct RowWidgets {
+        FormControlWidget* control = nullptr;
+        QLabel* title = nullptr;
+        QLabel* help = nullptr;
+    };
+
+    void scheduleRefresh();
+    void refresh();
+    void build(const Form& form);
+    void addGroups(const Form& form, QBoxLayout& column);
+    QWidget* createGroup(const FormGroup& group, QWidget* parent);
+    void addRow(const FormRow& row, QBoxLayout& box, QWidget* parent);
+    void showForm(const Form& form);
+    void showOverlays(const Form& form);
+    QWidget* createFoot(const Form& form);
+
+    FormModel& model;
+    const ToolkitHost& host;
+    Form shown;
+    bool isRefreshDue = false;
+    QWidget* body = nullptr;
+    std::map<std::string, RowWidgets> rows;
+    std::vector<QAbstractButton*> buttons;
+    QPointer<ListSheetDialog> sheet;
+    QPointer<PaneAlertDialog> alert;
+    Subscription changes;
+};
+
+} // namespace quorvel::x11

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "platform/Form.h"
+
+namespace quorvel::x11 {
+
+// Whether the widgets of the one form can show the other: the same rows with the same kinds of controls and the same
+// buttons, whatever their values.
+bool hasSameShape(const Form& one, const Form& other);
+
+bool hasPreview(const FormGroup& group);
+
+// The groups without previews, as indexes, column by column: one column, or two of about the same height where one
+// would be long.
+std::vector<std::vector<std::size_t>> groupColumns(const Form& form);
+
+} // namespace quorvel::x11

@@ -1,0 +1,115 @@
+#include "platform/x11/qt/LayoutCellWidget.h"
+
+#include <QGraphicsDropShadowEffect>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <utility>
+
+#include "platform/x11/qt/DrawListPainting.h"
+#include "platform/x11/qt/GroupFrame.h"
+#include "platform/x11/qt/QtText.h"
+
+namespace quorvel::x11 {
+
+namespace {
+
+constexpr int margin = 8;
+
+// The picture with rounded corners, a hairline and a faint shadow.
+class Thumbnail final : public QWidget {
+public:
+    Thumbnail(QImage image, QWidget* parent) : QWidget(parent), image(std::move(image))
+    {
+        constexpr float shadowAlpha = 0.15F;
+        setFixedSize(this->image.deviceIndependentSize().toSize());
+        auto* const shadow = new QGraphicsDropShadowEffect(this);
+        shadow->setBlurRadius(1.0);
+        shadow->setOffset(0.0);
+        shadow->setColor(QColor::fromRgbF(0.0F, 0.0F, 0.0F, shadowAlpha));
+        setGraphicsEffect(shadow);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        Q_UNUSED(event)
+        constexpr double radius = 6.0;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QPainterPath outline;
+        outline.addRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        painter.setClipPath(outline);
+        painter.drawImage(0, 0, image);
+        painter.setClipping(false);
+        painter.strokePath(outline, QPen(separatorColor(palette()), 1.0));
+    }
+
+private:
+    QImage image;
+};
+
+// Cut with an ellipsis where the row is too narrow.
+class ElidedLabel final : public QWidget {
+public:
+    ElidedLabel(QString content, QWidget* parent) : QWidget(parent), content(std::move(content))
+    {
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    }
+
+    QSize sizeHint() const override { return {fontMetrics().horizontalAdvance(content) + 1, fontMetrics().height()}; }
+    QSize minimumSizeHint() const override { return {fontMetrics().averageCharWidth() * 4, fontMetrics().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        Q_UNUSED(event)
+        QPainter painter(this);
+        painter.setPen(palette().color(foregroundRole()));
+        painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading,
+                         fontMetrics().elidedText(content, Qt::ElideRight, width()));
+    }
+
+private:
+    QString content;
+};
+
+} // namespace
+
+LayoutCellWidget::LayoutCellWidget(const LayoutCell& cell, const TextLayouts& layouts, QWidget* parent)
+    : QWidget(parent)
+{
+    auto* const line = new QHBoxLayout(this);
+    line->setContentsMargins(margin, 0, margin, 0);
+    line->setSpacing(margin);
+    auto* const thumbnail =
+        new Thumbnail(drawnImage(cell.thumbnail, cell.thumbnailSize, devicePixelRatioF(), layouts), this);
+    auto* const name = new ElidedLabel(text(cell.name), this);
+    for (QWidget* const passive : {static_cast<QWidget*>(thumbnail), static_cast<QWidget*>(name)}) {
+        passive->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    line->addWidget(thumbnail);
+    line->addWidget(name, 1);
+    setToolTip(text(cell.name).toHtmlEscaped());
+}
+
+QLineEdit* LayoutCellWidget::addDigitField(const QString& digit, const QString& toolTip,
+                                           std::function<void(const QString&)> ended)
+{
+    constexpr int fieldWidth = 30;
+    auto* const field = new QLineEdit(digit, this);
+    QFont font = field->font();
+    font.setWeight(QFont::DemiBold);
+    field->setFont(font);
+    field->setFixedWidth(std::max(fieldWidth, fontMetrics().horizontalAdvance("00") * 2));
+    field->setAlignment(Qt::AlignCenter);
+    field->setToolTip(toolTip);
+    field->setAccessibleName(toolTip);
+    connect(field, &QLineEdit::editingFinished, field, [field, ended = std::move(ended)] { ended(field->text()); });
+    layout()->addWidget(field);
+    return field;
+}
+
+} // namespace quorvel::x11

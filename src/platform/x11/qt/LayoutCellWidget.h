@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+#include <functional>
+
+#include "platform/LayoutsPaneModel.h"
+
+namespace quorvel::x11 {
+
+class TextLayouts;
+
+// The picture and the name of a layout, and in the table of selected ones a field for its digit. But for the field,
+// the mouse belongs to the table underneath.
+class LayoutCellWidget final : public QWidget {
+public:
+    LayoutCellWidget(const LayoutCell& cell, const TextLayouts& layouts, QWidget* parent);
+
+    // Adds the field. `ended` is called with its text when editing ends.
+    QLineEdit* addDigitField(const QString& digit, const QString& toolTip, std::function<void(const QString&)> ended);
+};
+
+} // namespace quorvel::x11

@@ -1,0 +1,165 @@
+#include "platform/x11/qt/LayoutTable.h"
+
+#include <QDataStream>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
+
+#include "platform/x11/qt/QtText.h"
+
+namespace quorvel::x11 {
+
+LayoutTable::LayoutTable(Actions actions, QWidget* parent) : QListWidget(parent), actions(std::move(actions))
+{
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] { reportSelection(); });
+    connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        if (this->actions.click) {
+            this->actions.click(static_cast<std::size_t>(row(item)));
+        }
+    });
+    connect(this, &QListWidget::itemDoubleClicked, this,
+            [this](QListWidgetItem* item) { this->actions.activate(static_cast<std::size_t>(row(item))); });
+}
+
+void LayoutTable::enableDragging(Dragging newDragging)
+{
+    dragging = std::move(newDragging);
+    setDragEnabled(true);
+    setAcceptDrops(true);
+    setDropIndicatorShown(true);
+    setDragDropMode(QAbstractItemView::DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+}
+
+void LayoutTable::setRows(const std::vector<Row>& rows)
+{
+    const QSignalBlocker quiet(this);
+    clear();
+    for (const auto& row : rows) {
+        auto* const item = new QListWidgetItem(this);
+        item->setSizeHint(QSize(0, row.height));
+        item->setData(Qt::AccessibleTextRole, row.name);
+        // Enabled even where it cannot be selected, so that it can be clicked.
+        item->setFlags(Qt::ItemIsEnabled | (row.isSelectable ? Qt::ItemIsSelectable : Qt::NoItemFlags) |
+                       (dragging.type.empty() ? Qt::NoItemFlags : Qt::ItemIsDragEnabled));
+        setItemWidget(item, row.widget);
+    }
+}
+
+void LayoutTable::selectRows(const TableSelection& rows)
+{
+    const QSignalBlocker quiet(this);
+    for (int index = 0; index < count(); ++index) {
+        item(index)->setSelected(std::ranges::binary_search(rows, static_cast<std::size_t>(index)));
+    }
+    if (!rows.empty()) {
+        setCurrentRow(static_cast<int>(rows.front()), QItemSelectionModel::NoUpdate);
+    }
+    viewport()->update();
+}
+
+void LayoutTable::reportSelection()
+{
+    TableSelection rows;
+    for (int index = 0; index < count(); ++index) {
+        if (item(index)->isSelected()) {
+            rows.push_back(static_cast<std::size_t>(index));
+        }
+    }
+    actions.select(rows);
+}
+
+QStringList LayoutTable::mimeTypes() const
+{
+    return {text(dragging.type)};
+}
+
+QMimeData* LayoutTable::mimeData(const QList<QListWidgetItem*>& items) const
+{
+    QList<int> rows;
+    for (auto* const item : items) {
+        rows.append(row(item));
+    }
+    std::ranges::sort(rows);
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    for (const int dragged : rows) {
+        stream << text(dragging.item(static_cast<std::size_t>(dragged)));
+    }
+    auto* const data = new QMimeData();
+    data->setData(text(dragging.type), bytes);
+    return data;
+}
+
+LayoutsPaneModel::DragSource LayoutTable::sourceOf(const QDropEvent& event) const
+{
+    return event.source() == this ? LayoutsPaneModel::DragSource::selectedTable
+                                  : LayoutsPaneModel::DragSource::elsewhere;
+}
+
+void LayoutTable::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasFormat(text(dragging.type)) && dragging.accepts(sourceOf(*event))) {
+        QListWidget::dragEnterEvent(event);
+        event->acceptProposedAction();
+    }
+}
+
+void LayoutTable::dragMoveEvent(QDragMoveEvent* event)
+{
+    QListWidget::dragMoveEvent(event);
+    if (event->mimeData()->hasFormat(text(dragging.type)) && dragging.accepts(sourceOf(*event))) {
+        event->setDropAction(Qt::MoveAction);
+        event->accept();
+    }
+}
+
+void LayoutTable::dropEvent(QDropEvent* event)
+{
+    std::vector<std::string> items;
+    QDataStream stream(event->mimeData()->data(text(dragging.type)));
+    while (!stream.atEnd() && stream.status() == QDataStream::Ok) {
+        QString dragged;
+        stream >> dragged;
+        items.push_back(utf8(dragged));
+    }
+    const bool isDone = dragging.drop(sourceOf(*event), items, rowBefore(event->position().toPoint()));
+    // A copy, so that the view does not take away what the model has put elsewhere.
+    event->setDropAction(isDone ? Qt::CopyAction : Qt::IgnoreAction);
+    event->accept();
+    setState(QAbstractItemView::NoState);
+    viewport()->update();
+}
+
+std::size_t LayoutTable::rowBefore(const QPoint& position) const
+{
+    const auto* const under = itemAt(position);
+    if (under == nullptr) {
+        return static_cast<std::size_t>(count());
+    }
+    const bool isLowerHalf = position.y() > visualItemRect(under).center().y();
+    return static_cast<std::size_t>(row(under)) + (isLowerHalf ? 1 : 0);
+}
+
+void LayoutTable::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && currentRow() >= 0) {
+        actions.activate(static_cast<std::size_t>(currentRow()));
+    } else if (event->key() == Qt::Key_Space && actions.click && currentRow() >= 0 &&
+               !(currentItem()->flags() & Qt::ItemIsSelectable)) {
+        actions.click(static_cast<std::size_t>(currentRow()));
+    } else if (event->key() == Qt::Key_Delete && actions.remove) {
+        actions.remove();
+    } else {
+        QListWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace quorvel::x11

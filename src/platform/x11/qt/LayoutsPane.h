@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+#include <vector>
+
+#include "base/Subscription.h"
+#include "platform/LayoutsPaneModel.h"
+
+namespace quorvel::x11 {
+
+struct ToolkitHost;
+class LayoutTable;
+
+// The two tables of layouts side by side.
+class LayoutsPane final : public QWidget {
+public:
+    LayoutsPane(LayoutsPaneModel& model, const ToolkitHost& host, QWidget* parent = nullptr);
+    ~LayoutsPane() override;
+
+private:
+    void scheduleRefresh();
+    void refresh();
+    void showAvailable(const LayoutsPaneContent& content);
+    void showSelected(const LayoutsPaneContent& content);
+    QWidget* createHeader(const LayoutSectionHeader& header);
+    LayoutTable* createAvailableTable();
+    LayoutTable* createSelectedTable();
+    void endEditing(std::size_t row, const QString& digit);
+
+    LayoutsPaneModel& model;
+    const ToolkitHost& host;
+    LayoutsPaneContent shown;
+    bool isRefreshDue = false;
+    LayoutTable* available;
+    LayoutTable* selected;
+    QAbstractButton* add;
+    QAbstractButton* remove;
+    std::vector<QLineEdit*> digitFields; // by row of the table of selected layouts
+    Subscription changes;
+};
+
+} // namespace quorvel::x11

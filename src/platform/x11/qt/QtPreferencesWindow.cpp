@@ -1,0 +1,122 @@
+#include "platform/x11/qt/QtPreferencesWindow.h"
+
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <cmath>
+#include <utility>
+
+#include "platform/x11/qt/FormPane.h"
+#include "platform/x11/qt/GroupFrame.h"
+#include "platform/x11/qt/LayoutsPane.h"
+#include "platform/x11/qt/PaneMetrics.h"
+#include "platform/x11/qt/QtText.h"
+#include "platform/x11/qt/TabButton.h"
+#include "platform/x11/qt/WindowShowing.h"
+
+namespace quorvel::x11 {
+
+namespace {
+
+QSize qtSize(Size size)
+{
+    return {static_cast<int>(std::ceil(size.width)), static_cast<int>(std::ceil(size.height))};
+}
+
+} // namespace
+
+QtPreferencesWindow::QtPreferencesWindow(PreferencesWindowModel& model, const ToolkitHost& host,
+                                         ToolkitWindowCallbacks callbacks)
+    : model(model), host(host), callbacks(std::move(callbacks)), panes(new QStackedWidget(this))
+{
+    constexpr int iconSide = 64;
+    const auto content = model.content();
+    setWindowTitle(text(content.title));
+    setWindowIcon(QIcon(text(host.imageFile(content.iconName, iconSide).string())));
+    setMinimumSize(qtSize(content.minimumSize));
+    resize(qtSize(content.size));
+    for (const auto& tab : content.tabs) {
+        panes->addWidget(createPane(tab));
+    }
+    auto* const box = new QVBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(0);
+    box->addWidget(createTabs(content));
+    box->addWidget(new Separator(this));
+    box->addWidget(panes, 1);
+    panes->setCurrentIndex(static_cast<int>(model.selectedTab()));
+}
+
+QtPreferencesWindow::~QtPreferencesWindow()
+{
+    close();
+}
+
+void QtPreferencesWindow::show()
+{
+    showInTheMiddle(*this, host);
+}
+
+QWidget* QtPreferencesWindow::createTabs(const PreferencesWindowContent& content)
+{
+    auto* const bar = new QWidget(this);
+    auto* const line = new QHBoxLayout(bar);
+    line->setContentsMargins(paneMetrics::margin, paneMetrics::titleSpacing, paneMetrics::margin,
+                             paneMetrics::titleSpacing);
+    line->setSpacing(paneMetrics::titleSpacing);
+    line->addStretch(1);
+    auto* const tabs = new QButtonGroup(this);
+    for (std::size_t index = 0; index < content.tabs.size(); ++index) {
+        auto* const tab = new TabButton(content.tabs[index].title, content.tabs[index].symbol, bar);
+        tab->setChecked(index == model.selectedTab());
+        tab->setShortcut(QKeySequence(QString("Ctrl+%1").arg(index + 1)));
+        tabs->addButton(tab, static_cast<int>(index));
+        line->addWidget(tab);
+    }
+    line->addStretch(1);
+    connect(tabs, &QButtonGroup::idClicked, this, [this](int index) {
+        model.selectTab(static_cast<std::size_t>(index));
+        panes->setCurrentIndex(index);
+    });
+    return bar;
+}
+
+QWidget* QtPreferencesWindow::createPane(const PreferencesTab& tab)
+{
+    QWidget* pane = nullptr;
+    if (auto* const* const form = std::get_if<FormModel*>(&tab.pane)) {
+        pane = new FormPane(**form, host, this);
+    } else {
+        pane = new LayoutsPane(*std::get<LayoutsPaneModel*>(tab.pane), host, this);
+    }
+    pane->setAccessibleName(text(tab.title));
+    return pane;
+}
+
+void QtPreferencesWindow::closeEvent(QCloseEvent* event)
+{
+    callbacks.willClose();
+    event->accept();
+}
+
+void QtPreferencesWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        callbacks.didBecomeActive();
+    }
+    QWidget::changeEvent(event);
+}
+
+void QtPreferencesWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Close) || event->matches(QKeySequence::Cancel)) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace quorvel::x11

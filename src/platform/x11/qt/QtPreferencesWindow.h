@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QStackedWidget>
+#include <QWidget>
+
+#include "platform/PreferencesWindowModel.h"
+#include "platform/x11/desktop/ToolkitUi.h"
+
+namespace quorvel::x11 {
+
+// The window with the panes, one for each tab. Tabs are buttons with a symbol over a title, in a row at the top.
+class QtPreferencesWindow final : public QWidget, public ToolkitWindow {
+public:
+    QtPreferencesWindow(PreferencesWindowModel& model, const ToolkitHost& host, ToolkitWindowCallbacks callbacks);
+    ~QtPreferencesWindow() override;
+
+    void show() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QWidget* createTabs(const PreferencesWindowContent& content);
+    QWidget* createPane(const PreferencesTab& tab);
+
+    PreferencesWindowModel& model;
+    const ToolkitHost& host;
+    ToolkitWindowCallbacks callbacks;
+    QStackedWidget* panes;
+};
+
+} // namespace quorvel::x11

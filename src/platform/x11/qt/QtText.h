@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace quorvel::x11 {
+
+inline QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+inline std::string utf8(const QString& text)
+{
+    return text.toStdString();
+}
+
+// Menus and buttons take "&" for the mark of a mnemonic.
+inline QString labelText(std::string_view title)
+{
+    return text(title).replace('&', "&&");
+}
+
+} // namespace quorvel::x11

@@ -1,0 +1,115 @@
+#include "platform/x11/qt/controls/ColorWidget.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "platform/x11/qt/QtText.h"
+
+namespace quorvel::x11 {
+
+namespace {
+
+class Swatch final : public QPushButton {
+public:
+    Swatch(const QColor& color, QWidget* parent) : QPushButton(parent), color(color) {}
+
+    QSize sizeHint() const override
+    {
+        const int height = fontMetrics().height() + fontMetrics().height() / 2;
+        return {height * 2, height};
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        Q_UNUSED(event)
+        constexpr double radius = 5.0;
+        constexpr double focusInset = 2.5;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QRectF area = QRectF(rect()).adjusted(focusInset, focusInset, -focusInset, -focusInset);
+        QPainterPath outline;
+        outline.addRoundedRect(area, radius, radius);
+        painter.setClipPath(outline);
+        paintChequers(painter, area);
+        painter.fillRect(area, isEnabled() ? color : QColor(Qt::transparent));
+        painter.setClipping(false);
+        QColor edge = palette().color(QPalette::WindowText);
+        edge.setAlphaF(0.35F);
+        painter.strokePath(outline, QPen(edge, 1.0));
+        if (hasFocus()) {
+            painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+            painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius + 1.0, radius + 1.0);
+        }
+    }
+
+private:
+    static void paintChequers(QPainter& painter, const QRectF& area)
+    {
+        constexpr int side = 6;
+        painter.fillRect(area, Qt::white);
+        for (int y = 0; y * side < area.height(); ++y) {
+            for (int x = y % 2; x * side < area.width(); x += 2) {
+                painter.fillRect(QRectF(area.x() + x * side, area.y() + y * side, side, side), QColor(204, 204, 204));
+            }
+        }
+    }
+
+    const QColor& color; // of the widget around this
+};
+
+QColor qtColor(const Color& color)
+{
+    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+                            static_cast<float>(color.blue), static_cast<float>(color.alpha));
+}
+
+} // namespace
+
+ColorWidget::ColorWidget(const ControlPane& pane, const FormRow& row, QWidget* parent)
+    : FormControlWidget(pane, row, parent), swatch(new Swatch(color, this))
+{
+    auto* const box = new QHBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->addWidget(swatch);
+    swatch->setAutoDefault(false);
+    setFocusProxy(swatch);
+    connect(swatch, &QPushButton::clicked, this, [this] { openDialog(); });
+}
+
+void ColorWidget::showRow(const FormRow& row)
+{
+    color = qtColor(std::get<ColorControl>(row.control).color);
+    swatch->setAccessibleName(text(row.accessibleName));
+    swatch->setAccessibleDescription(color.name(QColor::HexArgb));
+    swatch->setToolTip(color.name(QColor::HexRgb) + QString(", %1 %").arg(qRound(color.alphaF() * 100.0F)));
+    swatch->setEnabled(row.isEnabled);
+    swatch->update();
+}
+
+void ColorWidget::openDialog()
+{
+    if (dialog) {
+        dialog->raise();
+        dialog->activateWindow();
+        return;
+    }
+    dialog = new QColorDialog(color, window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QColorDialog::ShowAlphaChannel);
+    dialog->setOption(QColorDialog::DontUseNativeDialog);
+    dialog->setWindowTitle(swatch->accessibleName());
+    const auto sendColor = [this](const QColor& chosen) {
+        if (chosen.isValid()) {
+            send(Color::bytes(chosen.red(), chosen.green(), chosen.blue(), chosen.alpha()));
+        }
+    };
+    connect(dialog, &QColorDialog::currentColorChanged, this, sendColor);
+    connect(dialog, &QColorDialog::rejected, this, [sendColor, before = color] { sendColor(before); });
+    // With this widget goes the row, and with it what the dialog is about.
+    connect(this, &QObject::destroyed, dialog, &QWidget::close);
+    dialog->show();
+}
+
+} // namespace quorvel::x11
