@@ -86,7 +86,17 @@ void KeyInjector::releaseModifier(Modifier modifier)
 void KeyInjector::click(int x, int y, std::uint8_t button)
 {
     movePointer(x, y);
+    pressButton(button);
+    releaseButton(button);
+}
+
+void KeyInjector::pressButton(std::uint8_t button)
+{
     send(XCB_BUTTON_PRESS, button);
+}
+
+void KeyInjector::releaseButton(std::uint8_t button)
+{
     send(XCB_BUTTON_RELEASE, button);
 }
 

@@ -40,6 +40,8 @@ public:
     // A mouse click at a place of the root.
     void click(int x, int y, std::uint8_t button = 1);
     void movePointer(int x, int y);
+    void pressButton(std::uint8_t button = 1);
+    void releaseButton(std::uint8_t button = 1);
 
     std::uint8_t codeOf(xcb_keysym_t keysym);
 

@@ -1,21 +1,26 @@
 #pragma once
 
-#include <QAbstractNativeEventFilter>
+#include <QKeyEvent>
+#include <QObject>
 
 #include "platform/x11/desktop/ToolkitUi.h"
 
 namespace quorvel::x11 {
 
-// Offers every key-down of the toolkit's windows to the program before a widget sees it. What it takes, auto-repeats
-// of it and its release included, reaches no widget.
-class KeyDownFilter final : public QAbstractNativeEventFilter {
+// Shows the program every key that goes down in a window of the toolkit, in its turn: after what earlier keys do has
+// been done, before any shortcut and widget. A key that the program swallows goes no further, and neither do its
+// repeats and its release.
+class KeyDownFilter final : public QObject {
 public:
     explicit KeyDownFilter(const ToolkitHost& host) : host(host) {}
 
-    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool takes(const QKeyEvent& offer);
+
     const ToolkitHost& host;
+    quint32 swallowed = 0; // the X key code of the key that was swallowed last, until it is released
 };
 
 } // namespace quorvel::x11

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <cmath>
 #include <utility>
@@ -72,7 +73,12 @@ QWidget* QtPreferencesWindow::createTabs(const PreferencesWindowContent& content
     for (std::size_t index = 0; index < content.tabs.size(); ++index) {
         auto* const tab = new TabButton(content.tabs[index].title, content.tabs[index].symbol, bar);
         tab->setChecked(index == model.selectedTab());
-        tab->setShortcut(QKeySequence(QString("Ctrl+%1").arg(index + 1)));
+        // At once, so that the next key goes to the tab's pane; a button's own shortcut clicks it a moment later.
+        connect(new QShortcut(QKeySequence(QString("Ctrl+%1").arg(index + 1)), this), &QShortcut::activated, tab,
+                [tab] {
+                    tab->click();
+                    tab->setFocus(Qt::ShortcutFocusReason);
+                });
         tabs->addButton(tab, static_cast<int>(index));
         line->addWidget(tab);
     }

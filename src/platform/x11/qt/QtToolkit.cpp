@@ -66,7 +66,7 @@ QtToolkit::QtToolkit(const char* displayName, const ToolkitHost& host)
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("quorvel");
     QApplication::setQuitOnLastWindowClosed(false);
-    application.installNativeEventFilter(&keyDownFilter);
+    application.installEventFilter(&keyDownFilter);
 }
 
 QtToolkit::~QtToolkit() = default;

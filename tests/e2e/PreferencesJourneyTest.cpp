@@ -1,0 +1,247 @@
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "e2e/ProgramTest.h"
+#include "support/SystemTray.h"
+
+namespace quorvel::e2e {
+namespace {
+
+using testing::ContainsRegex;
+using testing::HasSubstr;
+using xtest::PixelRect;
+using Modifier = xtest::KeyInjector::Modifier;
+
+// The preferences and the About window of the whole program, by the tray's menu and the keyboard alone.
+class PreferencesJourney : public ProgramTest {
+protected:
+    void SetUp() override
+    {
+        if (!xtest::SystemTray::isInstalled()) {
+            GTEST_SKIP() << "needs trayer";
+        }
+        tray = std::make_unique<xtest::SystemTray>(display.server, display.client);
+        // With somewhere to look for updates every entry of the menu down to the preferences can be chosen.
+        start({.environment = {{"QUORVEL_UPDATE_FEED", "http://127.0.0.1:9/"}}});
+    }
+
+    // Entries of the tray's menu, counted from the top.
+    enum class Entry { about, checkForUpdates, preferences };
+
+    void chooseFromTray(Entry entry)
+    {
+        const pid_t program = quorvel->program().id();
+        std::optional<PixelRect> icon;
+        display.client.waitFor("the icon in the tray", [&] { return (icon = tray->iconOf(program)).has_value(); });
+        bool hasKeyboard = false;
+        display.client.observeEvents([&](const xcb_generic_event_t& event) {
+            // A grab takes the focus from the window that has it, in a way that the event tells.
+            hasKeyboard =
+                hasKeyboard || ((event.response_type & 0x7F) == XCB_FOCUS_OUT &&
+                                reinterpret_cast<const xcb_focus_out_event_t&>(event).mode == XCB_NOTIFY_MODE_GRAB);
+        });
+        display.keyboard.click(icon->x + icon->width / 2, icon->y + icon->height / 2);
+        display.client.waitFor("the menu to take the keyboard", [&] { return hasKeyboard; });
+        display.client.observeEvents(nullptr);
+        for (int row = 0; row <= static_cast<int>(entry); ++row) {
+            display.keyboard.tap(XKB_KEY_Down);
+        }
+        display.keyboard.tap(XKB_KEY_Return);
+    }
+
+    std::vector<xcb_window_t> windowsTitled(const std::string& title)
+    {
+        auto windows = display.client.managedWindows();
+        std::erase_if(windows, [&](xcb_window_t window) {
+            return display.client.textProperty(window, "_NET_WM_NAME") != title || !display.client.isViewable(window);
+        });
+        return windows;
+    }
+
+    // Waits until the one window of that title has the keyboard.
+    xcb_window_t waitForWindow(const std::string& title)
+    {
+        display.client.waitFor("the window \"" + title + "\"", [&] {
+            const auto windows = windowsTitled(title);
+            return windows.size() == 1 && display.client.activeWindow() == windows.front() &&
+                   focusedWindow() == windows.front();
+        });
+        return windowsTitled(title).front();
+    }
+
+    xcb_window_t focusedWindow()
+    {
+        auto* const link = display.client.connection();
+        const xtest::XReply<xcb_get_input_focus_reply_t> focus(
+            xcb_get_input_focus_reply(link, xcb_get_input_focus(link), nullptr));
+        return focus ? focus->focus : XCB_NONE;
+    }
+
+    xcb_window_t openPreferences()
+    {
+        chooseFromTray(Entry::preferences);
+        return waitForWindow("Preferences");
+    }
+
+    void waitUntilClosed(const std::string& title)
+    {
+        display.client.waitFor("\"" + title + "\" to close", [&] { return windowsTitled(title).empty(); });
+    }
+
+    // The closing of the preferences is announced twice, and each time all hot keys come back.
+    void waitUntilResumed()
+    {
+        waitUntilClosed("Preferences");
+        quorvel->program().waitForLine("Preferences window will close; resuming shortcuts");
+        quorvel->program().waitForLine("Preferences close notification received; resuming shortcuts");
+    }
+
+    // Whether a library of that name is in the program's memory.
+    bool hasLoaded(const std::string& library)
+    {
+        std::ifstream maps("/proc/" + std::to_string(quorvel->program().id()) + "/maps");
+        std::ostringstream text;
+        text << maps.rdbuf();
+        EXPECT_THAT(text.str(), HasSubstr("/quorvel"));
+        return text.str().find(library) != std::string::npos;
+    }
+
+    // The hot key shows the frames, and a letter puts the window into one.
+    void expectHotKeyWorks(const xtest::KeyCombination& hotKey = RunningQuorvel::hotKey())
+    {
+        const auto window = openWindow();
+        display.keyboard.tap(hotKey.modifiers, hotKey.keysym);
+        quorvel->waitForFrames(fullScreen, workArea());
+        display.keyboard.tap(XKB_KEY_a);
+        quorvel->waitUntilPlaced(window->id(), workArea());
+        quorvel->waitUntilIdle();
+    }
+
+    // What the tray leaves.
+    PixelRect workArea()
+    {
+        const auto area = display.client.property(display.client.root(), "_NET_WORKAREA");
+        return {static_cast<int>(area.at(0)), static_cast<int>(area.at(1)), screen.width, static_cast<int>(area.at(3))};
+    }
+
+    std::string storedSettings() const
+    {
+        std::ostringstream text;
+        text << std::ifstream(configuration.path() / "quorvel/settings.plist").rdbuf();
+        return text.str();
+    }
+
+    std::unique_ptr<xtest::SystemTray> tray;
+};
+
+TEST_F(PreferencesJourney, QtIsLoadedByTheFirstWindowAndNotBefore)
+{
+    expectHotKeyWorks();
+    EXPECT_FALSE(hasLoaded("quorvel-qt.so"));
+    EXPECT_FALSE(hasLoaded("libQt6"));
+    openPreferences();
+    EXPECT_TRUE(hasLoaded("quorvel-qt.so"));
+    EXPECT_TRUE(hasLoaded("libQt6Widgets"));
+    display.keyboard.tap(XKB_KEY_Escape);
+    waitUntilResumed();
+    endCleanly();
+}
+
+TEST_F(PreferencesJourney, HotKeysRestWhileThePreferencesAreOpenAndComeBackByEveryWayOfClosing)
+{
+    const std::vector<std::pair<std::string, std::function<void(xcb_window_t)>>> ways{
+        {"Escape", [&](xcb_window_t) { display.keyboard.tap(XKB_KEY_Escape); }},
+        {"Ctrl+W", [&](xcb_window_t) { display.keyboard.tap({Modifier::control}, XKB_KEY_w); }},
+        {"the title bar", [&](xcb_window_t window) {
+             display.client.sendToWindowManager(window, "_NET_CLOSE_WINDOW", {XCB_CURRENT_TIME, 2, 0, 0, 0});
+         }}};
+    for (const auto& [name, close] : ways) {
+        SCOPED_TRACE(name);
+        const auto window = openPreferences();
+        EXPECT_TRUE(display.grabs.isFree(RunningQuorvel::hotKey()));
+        close(window);
+        waitUntilResumed();
+        expectHotKeyWorks();
+    }
+    endCleanly();
+}
+
+TEST_F(PreferencesJourney, TheProgramMayEndWithItsWindowsOpen)
+{
+    openPreferences();
+    chooseFromTray(Entry::about);
+    waitForWindow("About Quorvel");
+    endCleanly();
+}
+
+TEST_F(PreferencesJourney, ThePreferencesAreOneWindowThatComesBackToTheFront)
+{
+    const auto first = openPreferences();
+    const auto other = openWindow();
+    EXPECT_EQ(display.client.activeWindow(), other->id());
+    EXPECT_EQ(openPreferences(), first);
+    display.keyboard.tap(XKB_KEY_Escape);
+    waitUntilResumed();
+    const auto second = openPreferences();
+    EXPECT_EQ(windowsTitled("Preferences"), std::vector{second});
+    display.keyboard.tap(XKB_KEY_Escape);
+    waitUntilResumed();
+    expectHotKeyWorks();
+    endCleanly();
+}
+
+TEST_F(PreferencesJourney, ThePreferencesStandInTheMiddleAndNeverGetSmallerThanTheyAllow)
+{
+    const auto window = openPreferences();
+    const auto rect = display.client.clientRect(window).value();
+    EXPECT_EQ(rect.width, 1050);
+    EXPECT_EQ(rect.height, 785);
+    const auto outer = display.client.outerRect(window).value();
+    const auto area = workArea();
+    EXPECT_NEAR(outer.x + outer.width / 2.0, area.x + area.width / 2.0, 2.0);
+    EXPECT_NEAR(outer.y + outer.height / 2.0, area.y + area.height / 2.0, 20.0); // with or without the title bar
+
+    constexpr std::uint32_t widthAndHeight = 3U << 10U | 2U << 12U;
+    display.client.sendToWindowManager(window, "_NET_MOVERESIZE_WINDOW", {widthAndHeight, 0, 0, 900, 700});
+    display.client.waitFor("the smallest size", [&] {
+        const auto size = display.client.clientRect(window).value();
+        return size.width == 950 && size.height == 705;
+    });
+    display.keyboard.tap(XKB_KEY_Escape);
+    waitUntilResumed();
+    endCleanly();
+}
+
+TEST_F(PreferencesJourney, TheAboutWindowOpensFromTheTrayAndClosesByTheKeyboard)
+{
+    for (const bool byEscape : {true, false}) {
+        chooseFromTray(Entry::about);
+        waitForWindow("About Quorvel");
+        display.keyboard.tap(byEscape ? std::vector<Modifier>{} : std::vector{Modifier::control},
+                             byEscape ? XKB_KEY_Escape : XKB_KEY_w);
+        waitUntilClosed("About Quorvel");
+    }
+    expectHotKeyWorks(); // it has not paused them
+    endCleanly();
+}
+
+TEST_F(PreferencesJourney, AShortcutRecordedByTheKeyboardAloneWorksOnceTheWindowIsClosed)
+{
+    const xtest::KeyCombination recorded{{Modifier::command, Modifier::option}, XKB_KEY_p};
+    openPreferences();
+    display.keyboard.tap({Modifier::control}, XKB_KEY_2); // the tab of the shortcuts
+    display.keyboard.tap(XKB_KEY_Tab);                    // the keyboard's layout
+    display.keyboard.tap(XKB_KEY_Tab);                    // "Record" of the first shortcut
+    display.keyboard.tap(XKB_KEY_space);
+    display.keyboard.tap(recorded.modifiers, recorded.keysym);
+    display.keyboard.tap(XKB_KEY_Escape);
+    waitUntilResumed();
+    EXPECT_THAT(storedSettings(), ContainsRegex("<key>activateOverlayKeyCode</key>[[:space:]]*<integer>35</integer>"));
+    EXPECT_TRUE(display.grabs.isFree(RunningQuorvel::hotKey()));
+    expectHotKeyWorks(recorded);
+    endCleanly();
+}
+
+} // namespace
+} // namespace quorvel::e2e
