@@ -192,7 +192,7 @@ void MoveResizeMode::endSnap()
     hideSnapTarget();
 }
 
-void MoveResizeMode::hideSnapTarget()
+void MoveResizeMode::hideSnapTarget() const
 {
     if (modes.snapTargetOverlay) {
         modes.snapTargetOverlay->hide();
@@ -275,7 +275,7 @@ void MoveResizeMode::refreshFrameSoon()
     }));
 }
 
-void MoveResizeMode::releaseBlocker()
+void MoveResizeMode::releaseBlocker() const
 {
     if (environment.eventBlocker != nullptr) {
         environment.eventBlocker->clearBlockedKeys();

@@ -50,7 +50,7 @@ private:
     AxRect snapped(const SnapStep& step);
     AxRect limited(const AxRect& rect);
     void endSnap();
-    void hideSnapTarget();
+    void hideSnapTarget() const;
 
     void cycle(bool backwards);
     bool continueWith(std::size_t index);
@@ -59,7 +59,7 @@ private:
     void refreshFrameSoon();
 
     void end();
-    void releaseBlocker();
+    void releaseBlocker() const;
 
     ModeEnvironment environment;
     ModeState& modes;

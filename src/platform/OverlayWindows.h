@@ -72,6 +72,7 @@ public:
 // main loop, and nowhere else.
 class OverlayPanel : public OverlayWindow {
 public:
+    // Takes the focus, and keeps it from applications that were activated just before.
     virtual void makeKey() = 0;
     virtual bool isKey() const = 0;
 };

@@ -23,6 +23,14 @@ protected:
         return reply->focus;
     }
 
+    // As a window manager does when it carries an activation out.
+    void giveFocusAway()
+    {
+        xcb_set_input_focus(display.client.connection(), XCB_INPUT_FOCUS_POINTER_ROOT, display.client.root(),
+                            XCB_CURRENT_TIME);
+        display.client.sync();
+    }
+
     std::vector<KeyEvent> heard;
     std::unique_ptr<OverlayPanel> panel =
         windows.createPanel({.contentRect = {0.0, 0.0, 1920.0, 1080.0}, .level = windowLevels::floating},
@@ -73,10 +81,25 @@ TEST_F(OverlayPanelTest, IsKeyAtOnceAndNoLongerAfterAnotherWindowTookTheFocus)
     EXPECT_TRUE(panel->isKey());
     settle();
     EXPECT_TRUE(panel->isKey());
-    xcb_set_input_focus(display.client.connection(), XCB_INPUT_FOCUS_POINTER_ROOT, display.client.root(),
-                        XCB_CURRENT_TIME);
-    display.client.sync();
+    giveFocusAway();
     waitFor("the loss of the focus", [&] { return !panel->isKey(); });
+}
+
+TEST_F(OverlayPanelTest, MadeKeyAgainItKeepsTheFocusFromActivationsOnTheirWay)
+{
+    show();
+    panel->makeKey();
+    for (int change = 0; change < 3; ++change) {
+        giveFocusAway();
+        waitFor("the focus again", [&] { return shownWindows() == std::vector{focus()}; });
+    }
+    display.keyboard.tap(XKB_KEY_b);
+    waitFor("the key", [&] { return heard.size() == 1; });
+
+    giveFocusAway();
+    waitFor("the loss of the focus", [&] { return !panel->isKey(); });
+    settle();
+    EXPECT_EQ(focus(), display.client.root());
 }
 
 TEST_F(OverlayPanelTest, StaysKeyWhileAnotherProgramGrabsTheKeyboard)

@@ -29,8 +29,17 @@ void X11OverlayPanel::makeKey()
     if (!isVisible()) {
         return;
     }
+    // Whoever asks again has activated an application meanwhile. The window manager carries that out later, perhaps as
+    // raising and as activating, and each takes the focus away once.
+    constexpr int focusChangesOfAnActivation = 3;
+    expectedLosses = hasFocus ? focusChangesOfAnActivation : 0;
     surface.prepare(); // the server gives the focus only to windows that are shown
     surface.show();
+    takeFocus();
+}
+
+void X11OverlayPanel::takeFocus()
+{
     xcb_set_input_focus(connection.xcb(), XCB_INPUT_FOCUS_POINTER_ROOT, surface.window(), XCB_CURRENT_TIME);
     hasFocus = true;
 }
@@ -58,6 +67,10 @@ void X11OverlayPanel::handleFocusChange(const xcb_focus_in_event_t& event, bool 
     const bool isByGrab = event.mode == XCB_NOTIFY_MODE_GRAB || event.mode == XCB_NOTIFY_MODE_UNGRAB;
     if (event.event == surface.window() && !isByGrab) {
         hasFocus = isFocused;
+        if (!isFocused && isVisible() && expectedLosses > 0) {
+            --expectedLosses;
+            takeFocus();
+        }
     }
 }
 

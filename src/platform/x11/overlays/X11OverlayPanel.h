@@ -22,6 +22,7 @@ public:
     bool isKey() const override;
 
 private:
+    void takeFocus();
     void handleKeyPress(const xcb_key_press_event_t& event);
     void handleFocusChange(const xcb_focus_in_event_t& event, bool isFocused);
 
@@ -29,6 +30,7 @@ private:
     const Keyboard& keyboard;
     std::function<void(const KeyEvent&)> onKeyDown;
     bool hasFocus = false;
+    int expectedLosses = 0; // of the focus, to activations that are still on their way
     std::vector<Subscription> events;
 };
 
