@@ -56,8 +56,10 @@ void writeConfiguration(WindowManager manager, const TemporaryDirectory& home)
         break;
     case WindowManager::fluxbox:
         home.write(".fluxbox/keys", "OnTitlebar Mouse1 :StartMoving\n");
+        // The wallpaper of its style may be missing, and a window would complain of that.
+        home.write(".fluxbox/overlay", "background: none\n");
         home.write(".fluxbox/init", "session.screen0.rootCommand: true\nsession.screen0.toolbar.visible: "
-                                    "false\nsession.styleOverlay: /dev/null\n");
+                                    "false\nsession.styleOverlay: ~/.fluxbox/overlay\n");
         break;
     case WindowManager::i3:
         home.write(".config/i3/config", i3Configuration);
