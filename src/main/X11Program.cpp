@@ -53,6 +53,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
                      *display.graphics, textLayouts),
       systemColors(x11::X11SystemColors::plasmaSettingsFile()),
       permissions(*display.connection),
+      desktopStyles(*display.connection),
       toolkit(x11::ToolkitModule::standardFile(), {}, toolkitHost()),
       statusBar(*display.connection, bundle, toolkit),
       alerts(bundle, toolkit),
@@ -122,6 +123,8 @@ x11::ToolkitHost X11Program::toolkitHost()
         .keyDown = [this](std::uint8_t keycode,
                           std::uint16_t state) { return keys.eventMonitors.reportLocalKeyDown(keycode, state); },
         .textLayouts = textLayouts,
+        .style = [this] { return desktopStyles.current(); },
+        .observeStyle = [this](std::function<void()> changed) { return desktopStyles.observe(std::move(changed)); },
     };
 }
 

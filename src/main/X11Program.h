@@ -13,6 +13,7 @@
 #include "platform/Platform.h"
 #include "platform/x11/GlibMainLoop.h"
 #include "platform/x11/StandardOutputLog.h"
+#include "platform/x11/desktop/DesktopStyles.h"
 #include "platform/x11/desktop/ToolkitModule.h"
 #include "platform/x11/desktop/X11Alerts.h"
 #include "platform/x11/desktop/X11Bundle.h"
@@ -65,6 +66,7 @@ private:
     x11::X11OverlayWindows overlayWindows;
     x11::X11SystemColors systemColors;
     x11::X11Permissions permissions;
+    x11::DesktopStyles desktopStyles;
     x11::ToolkitModule toolkit;
     x11::X11StatusBar statusBar;
     x11::X11Alerts alerts;

@@ -7,10 +7,12 @@
 #include <memory>
 #include <string_view>
 
+#include "base/Subscription.h"
 #include "platform/AboutContent.h"
 #include "platform/Alerts.h"
 #include "platform/EventMonitors.h"
 #include "platform/StatusBar.h"
+#include "platform/x11/desktop/DesktopStyle.h"
 
 namespace quorvel {
 class PreferencesWindowModel;
@@ -32,6 +34,11 @@ struct ToolkitHost {
     std::function<EventHandling(std::uint8_t keycode, std::uint16_t state)> keyDown;
 
     const TextLayouts& textLayouts;
+
+    // How the desktop wants windows to look, and a registration for whenever that may have changed. Without the two the
+    // toolkit looks as it likes.
+    std::function<DesktopStyle()> style = {};
+    std::function<Subscription(std::function<void()> changed)> observeStyle = {};
 };
 
 // A window of the toolkit; destroying it closes it.

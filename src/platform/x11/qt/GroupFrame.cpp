@@ -11,16 +11,27 @@ QColor separatorColor(const QPalette& palette)
     return color;
 }
 
+namespace {
+
+// Lighter than the window's ground, in light windows and in dark ones.
+QColor cardColor(const QPalette& palette)
+{
+    const bool isLight = palette.color(QPalette::Window).lightnessF() > 0.5F;
+    QColor ground = isLight ? palette.color(QPalette::Base) : palette.color(QPalette::WindowText);
+    ground.setAlphaF(isLight ? 0.6F : 0.05F);
+    return ground;
+}
+
+} // namespace
+
 void GroupFrame::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     constexpr double radius = 8.0;
-    QColor ground = palette().color(QPalette::WindowText);
-    ground.setAlphaF(0.035F);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(separatorColor(palette()), 1.0));
-    painter.setBrush(ground);
+    painter.setBrush(cardColor(palette()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 

@@ -12,7 +12,7 @@
 #include "platform/x11/qt/PaneButtons.h"
 #include "platform/x11/qt/PaneMetrics.h"
 #include "platform/x11/qt/QtText.h"
-#include "platform/x11/qt/Symbols.h"
+#include "platform/x11/qt/SymbolLabel.h"
 
 namespace quorvel::x11 {
 
@@ -192,10 +192,8 @@ QWidget* LayoutsPane::createHeader(const LayoutSectionHeader& header)
     whole->setAttribute(Qt::WA_TransparentForMouseEvents);
     auto* const line = new QHBoxLayout(whole);
     line->setContentsMargins(innerSpacing, 0, innerSpacing, 0);
-    auto* const arrow = new QLabel(whole);
-    const int side = fontMetrics().height() * 3 / 4;
-    arrow->setPixmap(symbolIcon(header.isCollapsed ? "chevron.right" : "chevron.down")
-                         .pixmap(QSize(side, side), devicePixelRatioF()));
+    auto* const arrow = new SymbolLabel(fontMetrics().height() * 3 / 4, QPalette::Text, whole);
+    arrow->showSymbol(header.isCollapsed ? "chevron.right" : "chevron.down");
     auto* const title = new QLabel(text(header.title), whole);
     title->setFont(paneMetrics::titleFont(paneMetrics::smallFont(title->font())));
     line->addWidget(arrow);

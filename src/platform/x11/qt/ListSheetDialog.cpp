@@ -8,7 +8,7 @@
 #include "platform/x11/qt/PaneButtons.h"
 #include "platform/x11/qt/PaneMetrics.h"
 #include "platform/x11/qt/QtText.h"
-#include "platform/x11/qt/Symbols.h"
+#include "platform/x11/qt/SymbolLabel.h"
 
 namespace quorvel::x11 {
 
@@ -127,16 +127,14 @@ QWidget* ListSheetDialog::createPlaceholder(const ListSheetPlaceholder& placehol
     constexpr int symbolLines = 3;
     auto* const whole = new QWidget(list);
     auto* const box = new QVBoxLayout(whole);
-    auto* const symbol = new QLabel(whole);
-    const int side = fontMetrics().height() * symbolLines;
-    symbol->setPixmap(symbolIcon(placeholder.symbol, palette().color(QPalette::PlaceholderText))
-                          .pixmap(QSize(side, side), devicePixelRatioF()));
+    auto* const symbol = new SymbolLabel(fontMetrics().height() * symbolLines, QPalette::PlaceholderText, whole);
+    symbol->showSymbol(placeholder.symbol);
     auto* const heading = plainLabel(placeholder.heading, whole);
     heading->setFont(paneMetrics::titleFont(heading->font()));
     auto* const line = plainLabel(placeholder.line, whole);
     line->setForegroundRole(QPalette::PlaceholderText);
     line->setWordWrap(true);
-    for (auto* const label : {symbol, heading, line}) {
+    for (auto* const label : {static_cast<QLabel*>(symbol), heading, line}) {
         label->setAlignment(Qt::AlignCenter);
         box->addWidget(label);
     }

@@ -30,6 +30,12 @@ bool isPlasma()
     return desktop != nullptr && std::string_view(desktop).find("KDE") != std::string_view::npos;
 }
 
+// Where Qt itself knows the desktop's looks.
+bool hasPlatformTheme()
+{
+    return isPlasma() || isSet("QT_QPA_PLATFORMTHEME");
+}
+
 void addItem(QMenu& menu, const MenuItem& item, const std::function<void(MenuCommand)>& onCommand)
 {
     auto* const action = menu.addAction(labelText(item.title));
@@ -49,7 +55,7 @@ QtToolkit::Arguments::Arguments(const char* displayName) : texts{"quorvel", "-pl
         texts.insert(texts.end(), {"-display", displayName});
     }
     // Elsewhere Qt would load GTK for its dialogs and colours, with a connection to the display of its own.
-    if (!isPlasma() && !isSet("QT_QPA_PLATFORMTHEME")) {
+    if (!hasPlatformTheme()) {
         texts.insert(texts.end(), {"-platformtheme", "generic"});
     }
     for (auto& argument : texts) {
@@ -67,6 +73,9 @@ QtToolkit::QtToolkit(const char* displayName, const ToolkitHost& host)
     QApplication::setApplicationName("quorvel");
     QApplication::setQuitOnLastWindowClosed(false);
     application.installEventFilter(&keyDownFilter);
+    if (!hasPlatformTheme()) {
+        style.emplace(host);
+    }
 }
 
 QtToolkit::~QtToolkit() = default;

@@ -3,11 +3,13 @@
 #include <QApplication>
 #include <QMenu>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/x11/desktop/ToolkitUi.h"
 #include "platform/x11/qt/KeyDownFilter.h"
+#include "platform/x11/qt/QtStyle.h"
 
 namespace quorvel::x11 {
 
@@ -38,7 +40,8 @@ private:
     Arguments arguments;
     QApplication application;
     KeyDownFilter keyDownFilter;
-    std::unique_ptr<QMenu> menu; // the one that was opened last
+    std::optional<QtStyle> style; // nothing where Qt follows the desktop by itself
+    std::unique_ptr<QMenu> menu;  // the one that was opened last
 };
 
 } // namespace quorvel::x11

@@ -1,11 +1,9 @@
 #include "platform/x11/qt/controls/StatusWidget.h"
 
 #include <QHBoxLayout>
-#include <QSize>
 
 #include "platform/x11/qt/PaneButtons.h"
 #include "platform/x11/qt/QtText.h"
-#include "platform/x11/qt/Symbols.h"
 
 namespace quorvel::x11 {
 
@@ -21,7 +19,7 @@ QColor toneColor(StatusTone tone)
 
 StatusWidget::StatusWidget(const ControlPane& pane, const FormRow& row, QWidget* parent)
     : FormControlWidget(pane, row, parent),
-      symbol(new QLabel(this)),
+      symbol(new SymbolLabel(fontMetrics().height() * 5 / 4, QPalette::WindowText, this)),
       button(createPaneButton(
           std::get<StatusControl>(row.control).button, [this](const std::string& id) { press(id); }, this))
 {
@@ -35,9 +33,7 @@ StatusWidget::StatusWidget(const ControlPane& pane, const FormRow& row, QWidget*
 void StatusWidget::showRow(const FormRow& row)
 {
     const auto& control = std::get<StatusControl>(row.control);
-    const int side = fontMetrics().height() * 5 / 4;
-    symbol->setPixmap(
-        symbolIcon(control.symbol, toneColor(control.tone)).pixmap(QSize(side, side), devicePixelRatioF()));
+    symbol->showSymbol(control.symbol, toneColor(control.tone));
     symbol->setToolTip(text(control.symbolDescription));
     symbol->setAccessibleName(text(control.symbolDescription));
     showPaneButton(*button, control.button);

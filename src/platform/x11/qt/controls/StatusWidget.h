@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QAbstractButton>
-#include <QLabel>
 
+#include "platform/x11/qt/SymbolLabel.h"
 #include "platform/x11/qt/controls/FormControlWidget.h"
 
 namespace quorvel::x11 {
@@ -15,7 +15,7 @@ public:
     void showRow(const FormRow& row) override;
 
 private:
-    QLabel* symbol;
+    SymbolLabel* symbol;
     QAbstractButton* button;
 };
 
