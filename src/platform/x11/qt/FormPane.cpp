@@ -110,8 +110,9 @@ void FormPane::build(const Form& form)
 
     for (const auto& group : form.groups) {
         if (hasPreview(group)) {
+            box->addWidget(new Separator(body)); // what scrolls ends there
             auto* const line = new QHBoxLayout();
-            line->setContentsMargins(paneMetrics::margin, 0, paneMetrics::margin, 0);
+            line->setContentsMargins(paneMetrics::margin, paneMetrics::titleSpacing, paneMetrics::margin, 0);
             line->addWidget(createGroup(group, body));
             box->addLayout(line);
         }
@@ -153,11 +154,15 @@ QWidget* FormPane::createGroup(const FormGroup& group, QWidget* parent)
     auto* const box = new QVBoxLayout(whole);
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(paneMetrics::titleSpacing);
+    // A preview's group is as low as can be: whatever sets the picture up stands beside the title.
+    const bool isLow = hasPreview(group);
+    auto* const head = new QHBoxLayout();
     if (!group.title.empty()) {
         auto* const title = new QLabel(text(group.title), whole);
         title->setFont(paneMetrics::titleFont(title->font()));
-        box->addWidget(title);
+        head->addWidget(title, 1);
     }
+    box->addLayout(head);
     auto* const frame = new GroupFrame(whole);
     frame->setAccessibleName(text(group.title));
     auto* const inner = new QVBoxLayout(frame);
@@ -165,7 +170,11 @@ QWidget* FormPane::createGroup(const FormGroup& group, QWidget* parent)
                               paneMetrics::rowSpacing);
     inner->setSpacing(0);
     for (const auto& row : group.rows) {
-        if (&row != &group.rows.front()) {
+        if (isLow && !std::holds_alternative<PreviewControl>(row.control)) {
+            addRow(row, *head, whole);
+            continue;
+        }
+        if (inner->count() > 0) {
             inner->addWidget(new Separator(frame));
         }
         addRow(row, *inner, frame);
