@@ -51,6 +51,27 @@ private:
     QImage image;
 };
 
+// A field whose edge can be seen on dark ground, too.
+class DigitField final : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        constexpr double radius = 2.0;
+        QLineEdit::paintEvent(event);
+        if (!hasFocus()) {
+            QColor edge = palette().color(QPalette::Text);
+            edge.setAlphaF(0.3F);
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(QPen(edge, 1.0));
+            painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        }
+    }
+};
+
 // Cut with an ellipsis where the row is too narrow.
 class ElidedLabel final : public QWidget {
 public:
@@ -99,7 +120,7 @@ QLineEdit* LayoutCellWidget::addDigitField(const QString& digit, const QString& 
                                            std::function<void(const QString&)> ended)
 {
     constexpr int fieldWidth = 30;
-    auto* const field = new QLineEdit(digit, this);
+    auto* const field = new DigitField(digit, this);
     QFont font = field->font();
     font.setWeight(QFont::DemiBold);
     field->setFont(font);

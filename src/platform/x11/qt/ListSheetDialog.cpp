@@ -34,6 +34,7 @@ ListSheetDialog::ListSheetDialog(const ListSheet& sheet, Press press, QWidget* p
     constexpr int widthInCharacters = 78;
     constexpr int heightInLines = 24;
     setWindowModality(Qt::WindowModal);
+    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen from the start
     setWindowTitle(text(sheet.title));
     resize(fontMetrics().averageCharWidth() * widthInCharacters, fontMetrics().height() * heightInLines);
     title->setFont(paneMetrics::headingFont(title->font()));

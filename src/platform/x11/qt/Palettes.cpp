@@ -26,7 +26,7 @@ Colors colors(ColorScheme scheme)
                 .button = QColor(0x3A, 0x3D, 0x43),
                 .text = QColor(0xE8, 0xEA, 0xED),
                 .faintText = QColor(0xA2, 0xA8, 0xB0),
-                .disabledText = QColor(0x74, 0x79, 0x81),
+                .disabledText = QColor(0x80, 0x86, 0x8E),
                 .highlight = QColor(0x3A, 0x8E, 0xE6),
                 .link = QColor(0x6C, 0xB2, 0xF7),
                 .toolTip = QColor(0x3A, 0x3D, 0x43)};

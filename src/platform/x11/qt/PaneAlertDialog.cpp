@@ -32,6 +32,7 @@ PaneAlertDialog::PaneAlertDialog(const PaneAlert& alert, Press press, const SetT
 {
     constexpr int widthInCharacters = 52;
     setWindowModality(Qt::WindowModal);
+    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen from the start
     setWindowTitle(text(alert.title));
     setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
 
@@ -57,12 +58,18 @@ PaneAlertDialog::PaneAlertDialog(const PaneAlert& alert, Press press, const SetT
     auto* const line = new QHBoxLayout();
     line->addStretch(1);
     // The first button stands at the right, where the eye ends.
+    QWidget* first = field;
     for (const auto& button : alert.buttons | std::views::reverse) {
-        line->addWidget(createPaneButton(button, this->press, this));
+        auto* const widget = createPaneButton(button, this->press, this);
+        line->addWidget(widget);
+        // Where nothing is to be typed, a press without thinking does no harm.
+        if (first == nullptr && button.role == ButtonRole::cancel) {
+            first = widget;
+        }
     }
     box->addLayout(line);
-    if (field != nullptr) {
-        field->setFocus();
+    if (first != nullptr) {
+        first->setFocus();
     }
 }
 

@@ -9,6 +9,12 @@
 
 namespace quorvel::x11 {
 
+namespace {
+
+constexpr QColor warningColor(224, 62, 62); // readable on light and on dark ground
+
+} // namespace
+
 void showPaneButton(QAbstractButton& widget, const PaneButton& button)
 {
     const QIcon icon = button.symbol.empty() ? QIcon() : symbolIcon(button.symbol);
@@ -36,6 +42,12 @@ QAbstractButton* createPaneButton(const PaneButton& button, std::function<void(c
         auto* const push = new QPushButton(parent);
         push->setAutoDefault(button.role == ButtonRole::confirm);
         push->setDefault(button.role == ButtonRole::confirm);
+        if (button.role == ButtonRole::destructive) {
+            QPalette warning = push->palette();
+            warning.setColor(QPalette::Active, QPalette::ButtonText, warningColor);
+            warning.setColor(QPalette::Inactive, QPalette::ButtonText, warningColor);
+            push->setPalette(warning);
+        }
         widget = push;
     } else {
         auto* const tool = new QToolButton(parent);

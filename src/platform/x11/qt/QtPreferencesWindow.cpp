@@ -37,6 +37,7 @@ QtPreferencesWindow::QtPreferencesWindow(PreferencesWindowModel& model, const To
     const auto content = model.content();
     setWindowTitle(text(content.title));
     setWindowIcon(QIcon(text(host.imageFile(content.iconName, iconSide).string())));
+    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen from the start
     setMinimumSize(qtSize(content.minimumSize));
     resize(qtSize(content.size));
     for (const auto& tab : content.tabs) {

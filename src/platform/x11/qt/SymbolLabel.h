@@ -10,8 +10,8 @@
 
 namespace quorvel::x11 {
 
-// A symbol that is no button, a square of that many pixels: in the colour given, else in the palette's one for its role,
-// whichever holds.
+// A symbol that is no button, a square of that many pixels: in the colour given, else in the palette's one for its
+// role, whichever holds.
 class SymbolLabel final : public QLabel {
 public:
     SymbolLabel(int side, QPalette::ColorRole role, QWidget* parent);

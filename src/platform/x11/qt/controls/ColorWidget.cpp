@@ -100,6 +100,9 @@ void ColorWidget::openDialog()
     dialog->setOption(QColorDialog::ShowAlphaChannel);
     dialog->setOption(QColorDialog::DontUseNativeDialog);
     dialog->setWindowTitle(swatch->accessibleName());
+    for (auto* const button : dialog->findChildren<QPushButton*>()) {
+        button->setIcon({}); // as everywhere else in these windows
+    }
     const auto sendColor = [this](const QColor& chosen) {
         if (chosen.isValid()) {
             send(Color::bytes(chosen.red(), chosen.green(), chosen.blue(), chosen.alpha()));
