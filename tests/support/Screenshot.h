@@ -15,6 +15,8 @@ public:
     explicit Screenshot(XClient& client);
     Screenshot(XClient& client, const PixelRect& part);
 
+    bool operator==(const Screenshot&) const = default;
+
     int width() const { return area.width; }
     int height() const { return area.height; }
 

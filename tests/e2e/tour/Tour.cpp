@@ -1,10 +1,9 @@
 #include "e2e/tour/Tour.h"
 
 #include <fmt/format.h>
-#include <poll.h>
 
+#include "e2e/StillPicture.h"
 #include "support/Patience.h"
-#include "support/Screenshot.h"
 
 namespace quorvel::tour {
 namespace {
@@ -236,18 +235,7 @@ void Tour::expectWindows(const std::string& key, const std::string& effect, std:
 
 void Tour::takePicture(const std::string& name, const PixelRect& part)
 {
-    constexpr int stillness = 250; // milliseconds without painting
-    auto& client = desk.display.client;
-    client.sync();
-    do {
-        while (client.handleEvents()) {
-        }
-        pollfd entry{.fd = xcb_get_file_descriptor(client.connection()), .events = POLLIN, .revents = 0};
-        if (poll(&entry, 1, stillness) == 0) {
-            break;
-        }
-    } while (true);
-    xtest::Screenshot(client, part).writePng(pictures / (name + ".png"));
+    e2e::stillPicture(desk.display.client, part).writePng(pictures / (name + ".png"));
 }
 
 } // namespace quorvel::tour

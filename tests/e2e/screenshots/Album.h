@@ -1,0 +1,64 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "e2e/RunningQuorvel.h"
+#include "support/SettingsDaemon.h"
+#include "support/SystemTray.h"
+#include "support/TemporaryDirectory.h"
+#include "support/TestDisplay.h"
+
+namespace quorvel::screenshots {
+
+// A look of the desktop: the name that its pictures begin with, and what its settings daemon calls its theme.
+struct Look {
+    std::string name;
+    std::string theme;
+};
+
+// Pictures of the windows of the real program on a desktop of their own, which is used with the keyboard.
+class Album {
+public:
+    Album(const Look& look, const std::filesystem::path& program, const std::filesystem::path& folder);
+
+    // Each tab of the preferences, what opens over them, and the About window.
+    void fill();
+
+private:
+    void takeTabs();
+    void takeThemes();
+    void takeColors();
+    void takeShortcuts();
+    void takeAbout();
+
+    // Entries of the tray's menu, counted from the top.
+    enum class Entry { about, checkForUpdates, preferences };
+
+    // Chooses the entry and waits for its window.
+    xcb_window_t open(Entry entry);
+
+    // Does something and waits until another window of the program is in front; returns it.
+    xcb_window_t expectWindow(const std::function<void()>& action);
+
+    // Does something and waits until the window looks different.
+    void expectChange(xcb_window_t window, const std::function<void()>& action);
+
+    void chooseTab(xcb_keysym_t digit);
+    void tap(xcb_keysym_t key, int times = 1);
+    void goBack(int controls);
+    void takePicture(const std::string& name, xcb_window_t window);
+
+    Look look;
+    std::filesystem::path folder;
+    xtest::TestDisplay display;
+    xtest::SettingsDaemon daemon;
+    std::unique_ptr<xtest::SystemTray> tray;
+    xtest::TemporaryDirectory configuration;
+    std::unique_ptr<e2e::RunningQuorvel> quorvel;
+    xcb_window_t preferences = XCB_NONE;
+};
+
+} // namespace quorvel::screenshots
