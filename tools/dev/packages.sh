@@ -14,8 +14,8 @@ debianPackages() {
         echo libxcb-render0-dev libxcb-render-util0-dev libxcb-xkb-dev libxcb-keysyms1-dev libxcb-icccm4-dev
         # the tests that are built beside them
         echo libxcb-damage0-dev libxcb-xtest0-dev
-        # the icons are drawn as SVG
-        echo librsvg2-bin
+        # the icons are drawn as SVG, the user guide is written in Markdown
+        echo librsvg2-bin cmark-gfm
         ;;
     tests)
         echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils x11-xserver-utils xkb-data dbus-daemon dbus

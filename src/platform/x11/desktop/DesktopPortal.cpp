@@ -76,10 +76,9 @@ std::optional<PortalPreference> DesktopPortal::preference() const
     if (!bus) {
         return std::nullopt;
     }
-    const Variant reply(g_dbus_connection_call_sync(bus.get(), busName, objectPath, interfaceName, "Read",
-                                                    g_variant_new("(ss)", settingsNamespace, settingName),
-                                                    G_VARIANT_TYPE("(v)"), G_DBUS_CALL_FLAGS_NONE, timeout, nullptr,
-                                                    nullptr));
+    const Variant reply(g_dbus_connection_call_sync(
+        bus.get(), busName, objectPath, interfaceName, "Read", g_variant_new("(ss)", settingsNamespace, settingName),
+        G_VARIANT_TYPE("(v)"), G_DBUS_CALL_FLAGS_NONE, timeout, nullptr, nullptr));
     if (!reply) {
         return std::nullopt;
     }
@@ -96,9 +95,8 @@ Subscription DesktopPortal::observe(std::function<void()> changed)
         return {};
     }
     const guint id = g_dbus_connection_signal_subscribe(
-        bus.get(), busName, interfaceName, "SettingChanged", objectPath, settingsNamespace,
-        G_DBUS_SIGNAL_FLAGS_NONE, &settingChanged, new Handler{std::move(changed)},
-        [](gpointer data) { delete static_cast<Handler*>(data); });
+        bus.get(), busName, interfaceName, "SettingChanged", objectPath, settingsNamespace, G_DBUS_SIGNAL_FLAGS_NONE,
+        &settingChanged, new Handler{std::move(changed)}, [](gpointer data) { delete static_cast<Handler*>(data); });
     return Subscription([this, id] { g_dbus_connection_signal_unsubscribe(bus.get(), id); });
 }
 

@@ -10,7 +10,9 @@ namespace {
 bool isDark(std::string_view themeName)
 {
     constexpr std::string_view mark = "dark";
-    const auto areEqual = [](char one, char lower) { return (one >= 'A' && one <= 'Z' ? one - 'A' + 'a' : one) == lower; };
+    const auto areEqual = [](char one, char lower) {
+        return (one >= 'A' && one <= 'Z' ? one - 'A' + 'a' : one) == lower;
+    };
     return !std::ranges::search(themeName, mark, areEqual).empty();
 }
 

@@ -20,7 +20,8 @@ struct DesktopStyle {
 // The values of the desktop portal's setting "color-scheme".
 enum class PortalPreference : std::uint32_t { none = 0, dark = 1, light = 2 };
 
-// What the person prefers as the portal tells, if it has an opinion; else as the name of the desktop's theme lets guess.
+// What the person prefers as the portal tells, if it has an opinion; else as the name of the desktop's theme lets
+// guess.
 ColorScheme colorScheme(std::optional<PortalPreference> preference, std::optional<std::string_view> themeName);
 
 } // namespace quorvel::x11

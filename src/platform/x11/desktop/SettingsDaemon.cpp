@@ -32,9 +32,8 @@ private:
     void follow(xcb_window_t window)
     {
         followed = window;
-        changes = window == XCB_WINDOW_NONE
-                      ? Subscription()
-                      : daemon.connection.selectEvents(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
+        changes = window == XCB_WINDOW_NONE ? Subscription()
+                                            : daemon.connection.selectEvents(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
     }
 
     void messageArrived(const xcb_client_message_event_t& event)

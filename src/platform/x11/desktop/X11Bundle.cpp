@@ -89,11 +89,12 @@ std::string X11Bundle::shortVersion() const
 
 std::string X11Bundle::userGuideAddress() const
 {
-    const auto file = find("user-guide.html");
+    const auto file = find(std::filesystem::path("../doc/quorvel/guide/index.html"));
     if (file.empty()) {
         return {};
     }
-    const GlibText address(g_filename_to_uri(std::filesystem::absolute(file).c_str(), nullptr, nullptr));
+    const auto path = std::filesystem::absolute(file).lexically_normal();
+    const GlibText address(g_filename_to_uri(path.c_str(), nullptr, nullptr));
     return address ? std::string(address.get()) : std::string();
 }
 

@@ -8,7 +8,7 @@
 namespace quorvel::x11 {
 
 // Resources as files in a few directories, the first of which wins. Images are PNG files in several sizes, named
-// "Name-SIZE.png", in the subdirectory "images".
+// "Name-SIZE.png", in the subdirectory "images". The user guide is beside them, where documents are.
 class X11Bundle final : public Bundle {
 public:
     explicit X11Bundle(std::vector<std::filesystem::path> directories) : directories(std::move(directories)) {}

@@ -67,8 +67,11 @@ TEST_F(X11BundleTest, AnImageOfAnySizeIsThere)
 TEST_F(X11BundleTest, TheGuidesAddressIsEmptyUntilItIsInstalled)
 {
     EXPECT_EQ(bundle.userGuideAddress(), "");
-    second.write("user-guide.html", "");
-    EXPECT_EQ(bundle.userGuideAddress(), "file://" + (second.path() / "user-guide.html").string());
+    second.write("share/quorvel/layouts.json", "");
+    second.write("share/doc/quorvel/guide/index.html", "");
+    const X11Bundle installed({first.path(), second.path() / "share/quorvel"});
+    EXPECT_EQ(installed.userGuideAddress(),
+              "file://" + (second.path() / "share/doc/quorvel/guide/index.html").string());
 }
 
 TEST(X11BundleDirectories, AreTheBuildTreesOrTheInstalledOnes)
@@ -78,6 +81,7 @@ TEST(X11BundleDirectories, AreTheBuildTreesOrTheInstalledOnes)
     EXPECT_TRUE(bundle.resource("layouts", "json").value());
     EXPECT_TRUE(bundle.image("MenuBarIcon"));
     EXPECT_TRUE(bundle.image("ColorLogoTransparent"));
+    EXPECT_THAT(bundle.userGuideAddress(), testing::EndsWith("/share/doc/quorvel/guide/index.html"));
 }
 
 TEST(X11BundleDirectories, TheEnvironmentsComesFirst)
