@@ -184,6 +184,11 @@ void LayoutsPane::showSelected(const LayoutsPaneContent& content)
         rows.push_back({widget, static_cast<int>(std::ceil(row.height)), true, text(row.cell.name)});
     }
     selected->setRows(rows);
+    QWidget* last = selected;
+    for (auto* const field : digitFields) {
+        setTabOrder(last, field); // new widgets come after everything else in the window
+        last = field;
+    }
 }
 
 QWidget* LayoutsPane::createHeader(const LayoutSectionHeader& header)

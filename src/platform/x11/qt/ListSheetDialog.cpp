@@ -4,6 +4,7 @@
 #include <QScrollArea>
 #include <utility>
 
+#include "platform/x11/qt/FocusMarking.h"
 #include "platform/x11/qt/GroupFrame.h"
 #include "platform/x11/qt/PaneButtons.h"
 #include "platform/x11/qt/PaneMetrics.h"
@@ -34,7 +35,7 @@ ListSheetDialog::ListSheetDialog(const ListSheet& sheet, Press press, QWidget* p
     constexpr int widthInCharacters = 78;
     constexpr int heightInLines = 24;
     setWindowModality(Qt::WindowModal);
-    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen from the start
+    alwaysMarkFocus(*this);
     setWindowTitle(text(sheet.title));
     resize(fontMetrics().averageCharWidth() * widthInCharacters, fontMetrics().height() * heightInLines);
     title->setFont(paneMetrics::headingFont(title->font()));

@@ -9,6 +9,7 @@
 #include <ranges>
 #include <utility>
 
+#include "platform/x11/qt/FocusMarking.h"
 #include "platform/x11/qt/PaneButtons.h"
 #include "platform/x11/qt/PaneMetrics.h"
 #include "platform/x11/qt/QtText.h"
@@ -32,7 +33,7 @@ PaneAlertDialog::PaneAlertDialog(const PaneAlert& alert, Press press, const SetT
 {
     constexpr int widthInCharacters = 52;
     setWindowModality(Qt::WindowModal);
-    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen from the start
+    alwaysMarkFocus(*this);
     setWindowTitle(text(alert.title));
     setMinimumWidth(fontMetrics().averageCharWidth() * widthInCharacters);
 

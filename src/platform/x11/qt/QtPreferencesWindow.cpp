@@ -10,6 +10,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/x11/qt/FocusMarking.h"
 #include "platform/x11/qt/FormPane.h"
 #include "platform/x11/qt/GroupFrame.h"
 #include "platform/x11/qt/LayoutsPane.h"
@@ -37,7 +38,7 @@ QtPreferencesWindow::QtPreferencesWindow(PreferencesWindowModel& model, const To
     const auto content = model.content();
     setWindowTitle(text(content.title));
     setWindowIcon(QIcon(text(host.imageFile(content.iconName, iconSide).string())));
-    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen from the start
+    alwaysMarkFocus(*this);
     setMinimumSize(qtSize(content.minimumSize));
     resize(qtSize(content.size));
     for (const auto& tab : content.tabs) {
