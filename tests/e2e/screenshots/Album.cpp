@@ -104,8 +104,10 @@ void Album::takeColors()
 xcb_window_t Album::open(Entry entry)
 {
     const pid_t program = quorvel->program().id();
-    std::optional<xtest::PixelRect> icon;
-    display.client.waitFor("the icon in the tray", [&] { return (icon = tray->iconOf(program)).has_value(); });
+    display.client.waitFor("the icon in the tray", [&] { return tray->iconOf(program).has_value(); });
+    // A tray goes on arranging itself for a moment.
+    e2e::stillPicture(display.client, {0, 0, screen.width, screen.height});
+    const auto icon = tray->iconOf(program);
     bool hasKeyboard = false;
     display.client.observeEvents([&](const xcb_generic_event_t& event) {
         // A grab takes the focus from whoever has it, in a way that the event tells.
