@@ -8,7 +8,7 @@ debianPackages() {
         echo libfmt-dev nlohmann-json3-dev libutf8proc-dev libexpat1-dev libgtest-dev libgmock-dev
         ;;
     x11)
-        echo qt6-base-dev libqt6svg6-dev libglib2.0-dev libcairo2-dev libpango1.0-dev libxkbcommon-dev libxkbcommon-x11-dev
+        echo qt6-base-dev qt6-svg-dev libglib2.0-dev libcairo2-dev libpango1.0-dev libxkbcommon-dev libxkbcommon-x11-dev
         echo libplist-dev libicu-dev
         echo libxcb1-dev libxcb-randr0-dev libxcb-res0-dev libxcb-shape0-dev libxcb-xfixes0-dev libxcb-xinput-dev
         echo libxcb-render0-dev libxcb-render-util0-dev libxcb-xkb-dev libxcb-keysyms1-dev libxcb-icccm4-dev
