@@ -56,4 +56,29 @@ Series overlayTimes(BenchDesktop& desktop, int runs, const Chord& hotKey, std::s
     });
 }
 
+Series placementTimes(BenchDesktop& desktop, int runs, const std::array<Chord, 2>& chords,
+                      const std::function<void()>& beforeEach)
+{
+    auto& probe = desktop.eventProbe();
+    const auto topLevel = probe.topLevelOf(desktop.target());
+    std::array<xtest::PixelRect, 2> places;
+    for (std::size_t index = 0; index < 2; ++index) {
+        beforeEach();
+        const auto previous = probe.frameOf(topLevel);
+        probe.pressUntilVisible(chords.at(index), probe.visibleCount());
+        probe.waitFor([&] {
+            probe.rest();
+            return probe.frameOf(topLevel) != previous;
+        });
+        places.at(index) = probe.frameOf(topLevel);
+    }
+    std::size_t next = 0;
+    return repeat(runs, [&] {
+        beforeEach();
+        const auto index = next;
+        next = 1 - next;
+        return probe.pressUntilPlaced(chords.at(index), topLevel, places.at(index));
+    });
+}
+
 } // namespace quorvel::bench

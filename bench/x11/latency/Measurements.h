@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -32,5 +33,11 @@ Series repeat(int runs, const std::function<std::optional<Milliseconds>()>& once
 Series overlayTimes(
     BenchDesktop& desktop, int runs, const Chord& hotKey, std::size_t windowCount,
     const std::function<void()>& afterEach = [] {});
+
+// The times from a chord to the moved window. Two chords take turns; where each of them leaves the window is learnt
+// first, so that every contender is timed by its own idea of the place.
+Series placementTimes(
+    BenchDesktop& desktop, int runs, const std::array<Chord, 2>& chords,
+    const std::function<void()>& beforeEach = [] {});
 
 } // namespace quorvel::bench

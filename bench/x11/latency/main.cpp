@@ -1,7 +1,7 @@
 // Measures what a person waits for: from a key press to painted overlays and to a window in its place, for Quorvel and
 // for other ways of doing the same, all in one run on displays of its own.
 //
-//   latency [--runs N] [--csv FILE] [--table overlay|composited|placement|switcher]
+//   latency [--runs N] [--csv FILE] [--table overlay|composited|placement|switcher|move]
 //
 // Exits with status 1 when a budget is not met, 2 when something could not be measured.
 
@@ -18,6 +18,7 @@
 
 #include "latency/BenchDesktop.h"
 #include "latency/Measurements.h"
+#include "latency/MoveTable.h"
 #include "latency/Report.h"
 #include "latency/SwitcherTables.h"
 #include "support/Patience.h"
@@ -43,34 +44,6 @@ constexpr auto halvesSettings = R"(<?xml version="1.0" encoding="UTF-8"?>
 const Chord overlayHotKey{{XKB_KEY_Super_L, XKB_KEY_Shift_L}, XKB_KEY_o};
 const Chord superF9{{XKB_KEY_Super_L}, XKB_KEY_F9};
 const Chord superF10{{XKB_KEY_Super_L}, XKB_KEY_F10};
-
-// Two chords that take turns. Where each of them leaves the window is learnt first, so that every contender is timed by
-// its own idea of the place.
-Series placementTimes(
-    BenchDesktop& desktop, int runs, const std::array<Chord, 2>& chords,
-    const std::function<void()>& beforeEach = [] {})
-{
-    auto& probe = desktop.eventProbe();
-    const auto topLevel = probe.topLevelOf(desktop.target());
-    std::array<xtest::PixelRect, 2> places;
-    for (std::size_t index = 0; index < 2; ++index) {
-        beforeEach();
-        const auto previous = probe.frameOf(topLevel);
-        probe.pressUntilVisible(chords.at(index), probe.visibleCount());
-        probe.waitFor([&] {
-            probe.rest();
-            return probe.frameOf(topLevel) != previous;
-        });
-        places.at(index) = probe.frameOf(topLevel);
-    }
-    std::size_t next = 0;
-    return repeat(runs, [&] {
-        beforeEach();
-        const auto index = next;
-        next = 1 - next;
-        return probe.pressUntilPlaced(chords.at(index), topLevel, places.at(index));
-    });
-}
 
 Report overlayReport(Compositing compositing, int runs)
 {
@@ -158,6 +131,7 @@ constexpr std::array tables = {
     Table{"composited", [](int runs) { return overlayReport(Compositing::on, runs); }},
     Table{"placement", placementReport},
     Table{"switcher", switcherReport},
+    Table{"move", moveReport},
 };
 
 std::optional<Options> parse(int count, char** words)
@@ -212,7 +186,8 @@ int main(int argumentCount, char** arguments)
 {
     const auto options = quorvel::bench::parse(argumentCount, arguments);
     if (!options) {
-        std::fputs("usage: latency [--runs N] [--csv FILE] [--table overlay|composited|placement|switcher]\n", stderr);
+        std::fputs("usage: latency [--runs N] [--csv FILE] [--table overlay|composited|placement|switcher|move]\n",
+                   stderr);
         return 2;
     }
     try {
