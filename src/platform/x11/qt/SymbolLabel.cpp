@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <utility>
 
 #include "platform/x11/qt/Symbols.h"
 
@@ -16,7 +15,7 @@ SymbolLabel::SymbolLabel(int side, QPalette::ColorRole role, QWidget* parent) : 
 void SymbolLabel::showSymbol(std::string_view name, std::optional<QColor> newColor)
 {
     symbol = name;
-    color = std::move(newColor);
+    color = newColor;
     createIcon();
     update();
 }

@@ -1,0 +1,209 @@
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+#include "platform/simulated/SimulatedDesktop.h"
+#include "platform/x11/desktop/ToolkitModule.h"
+#include "platform/x11/painting/TextLayouts.h"
+#include "preferences/PreferencesWindowController.h"
+#include "x11/desktop/DesktopTest.h"
+
+namespace quorvel::x11 {
+namespace {
+
+// What the toolkit makes of the real models, seen from inside: the module and the test share one Qt.
+class KeyboardUseTest : public DesktopTest {
+protected:
+    void SetUp() override
+    {
+        simulated.bundle.addResource("layouts", "json", bundle.resource("layouts", "json").value().value());
+        controller.emplace(platform, nullptr);
+        display.startWindowManager(xtest::WindowManager::openbox);
+        toolkitWindow = toolkit.createPreferencesWindow(*controller, {.didBecomeActive = [] {}, .willClose = [] {}});
+        toolkitWindow->show();
+        loop.waitFor("the preferences", [&] { return (window = activeWindow()) != nullptr; });
+    }
+
+    static QWidget* activeWindow() { return QApplication::activeWindow(); }
+
+    // Controls that take part in using the window; what they are made of inside does not.
+    static std::vector<QWidget*> controlsIn(const QWidget& whole)
+    {
+        const auto widgets = whole.findChildren<QWidget*>();
+        std::vector<QWidget*> controls;
+        std::ranges::copy_if(widgets, std::back_inserter(controls),
+                             [](const QWidget* widget) { return isControl(*widget); });
+        return controls;
+    }
+
+    static bool isControl(const QWidget& widget)
+    {
+        const QWidget* const parent = widget.parentWidget();
+        const bool isInner = qobject_cast<const QAbstractSpinBox*>(parent) != nullptr ||
+                             qobject_cast<const QScrollBar*>(&widget) != nullptr ||
+                             widget.inherits("QComboBoxListView") || widget.inherits("QTableCornerButton");
+        return !isInner && (qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+                            qobject_cast<const QAbstractSlider*>(&widget) != nullptr ||
+                            qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
+                            qobject_cast<const QComboBox*>(&widget) != nullptr ||
+                            qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+                            qobject_cast<const QAbstractItemView*>(&widget) != nullptr);
+    }
+
+    static std::string nameOf(QWidget* widget)
+    {
+        return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).toStdString();
+    }
+
+    static std::string describe(QWidget* widget)
+    {
+        return std::string(widget->metaObject()->className()) + " \"" + nameOf(widget) + '"';
+    }
+
+    static void expectNames(const QWidget& whole)
+    {
+        const auto controls = controlsIn(whole);
+        EXPECT_FALSE(controls.empty());
+        for (auto* const control : controls) {
+            EXPECT_NE(nameOf(control), "") << control->metaObject()->className() << " in "
+                                           << nameOf(control->parentWidget());
+        }
+    }
+
+    QAbstractButton* button(const std::string& name)
+    {
+        for (auto* const each : window->findChildren<QAbstractButton*>()) {
+            if (each->isVisible() && nameOf(each) == name) {
+                return each;
+            }
+        }
+        throw xtest::HarnessError("There is no button " + name);
+    }
+
+    // Presses the button and waits until a window over the one in front is there.
+    QWidget* open(const std::string& name)
+    {
+        auto* const before = activeWindow();
+        button(name)->click();
+        QWidget* opened = nullptr;
+        loop.waitFor("a window over the preferences",
+                     [&] { return (opened = activeWindow()) != nullptr && opened != before; });
+        return opened;
+    }
+
+    void closeByEscape()
+    {
+        display.keyboard.tap(XKB_KEY_Escape);
+        loop.waitFor("the preferences in front again", [&] { return activeWindow() == window; });
+    }
+
+    // Presses Tab until it comes back to where it has been.
+    std::vector<QWidget*> walk()
+    {
+        std::vector<QWidget*> way{QApplication::focusWidget()};
+        while (true) {
+            auto* const before = QApplication::focusWidget();
+            display.keyboard.tap(XKB_KEY_Tab);
+            loop.waitFor("the focus to go on", [&] {
+                return QApplication::focusWidget() != nullptr && QApplication::focusWidget() != before;
+            });
+            if (std::ranges::find(way, QApplication::focusWidget()) != way.end()) {
+                return way;
+            }
+            way.push_back(QApplication::focusWidget());
+        }
+    }
+
+    // Of buttons of which one is chosen, Tab reaches that one and the arrow keys the others.
+    static bool isBesideTheChosenOne(const QWidget& control)
+    {
+        const auto* const choice = qobject_cast<const QAbstractButton*>(&control);
+        return choice != nullptr && choice->group() != nullptr && choice->group()->exclusive() && !choice->isChecked();
+    }
+
+    void expectReached(const QWidget& whole)
+    {
+        const auto way = walk();
+        for (auto* const control : controlsIn(whole)) {
+            if (control->isVisible() && control->isEnabled() && !isBesideTheChosenOne(*control)) {
+                EXPECT_TRUE(std::ranges::find(way, control) != way.end()) << describe(control);
+            }
+        }
+    }
+
+    SimulatedDesktop simulated;
+    const Platform platform = simulated.platform();
+    std::optional<PreferencesWindowController> controller;
+    TextLayouts textLayouts{"sans"};
+    ToolkitModule toolkit{
+        ToolkitModule::standardFile(),
+        display.server.display(),
+        {.imageFile = [this](std::string_view name, int pixels) { return bundle.imageFile(name, pixels); },
+         .activate = [](std::uint32_t) {},
+         .keyDown = [](std::uint8_t, std::uint16_t) { return EventHandling::pass; },
+         .textLayouts = textLayouts}};
+    std::unique_ptr<ToolkitWindow> toolkitWindow;
+    QWidget* window = nullptr;
+};
+
+TEST_F(KeyboardUseTest, EveryControlHasAName)
+{
+    expectNames(*window);
+
+    button("Layout Appearance")->click();
+    auto* const question = open("Save Current Theme");
+    expectNames(*question);
+    display.keyboard.tap(XKB_KEY_Return);
+    loop.waitFor("the preferences in front again", [&] { return activeWindow() == window; });
+    expectNames(*open("Manage Themes…"));
+    closeByEscape();
+    expectNames(*open("Reset to Defaults"));
+    closeByEscape();
+}
+
+TEST_F(KeyboardUseTest, TabReachesEveryControlOfEveryPane)
+{
+    for (const auto& tab : controller->content().tabs) {
+        SCOPED_TRACE(tab.title);
+        auto* const chosen = button(tab.title);
+        chosen->click();
+        chosen->setFocus();
+        expectReached(*window);
+    }
+}
+
+TEST_F(KeyboardUseTest, TabGoesFromLeftToRightThroughTheLayouts)
+{
+    auto* const chosen = button("Layouts");
+    chosen->click();
+    auto& layouts = *std::get<LayoutsPaneModel*>(controller->content().tabs.back().pane);
+    layouts.doubleClickAvailable(1);
+    layouts.doubleClickAvailable(2);
+    loop.waitFor("two fields for digits",
+                 [&] { return std::ranges::count_if(window->findChildren<QLineEdit*>(), &QWidget::isVisible) == 2; });
+    layouts.selectAvailable({3});
+    layouts.selectSelected({0});
+    const auto remove = layouts.content().remove.accessibleName;
+    loop.waitFor("buttons for what is selected", [&] { return button(remove)->isEnabled(); });
+    chosen->setFocus();
+    std::vector<std::string> names;
+    for (auto* const widget : walk()) {
+        names.push_back(nameOf(widget));
+    }
+    const auto digit = layouts.content().digitToolTip;
+    EXPECT_EQ(names, (std::vector<std::string>{"Layouts", "Available", layouts.content().add.accessibleName,
+                                               remove, "Selected", digit, digit}));
+}
+
+} // namespace
+} // namespace quorvel::x11
