@@ -75,8 +75,8 @@ protected:
         const auto controls = controlsIn(whole);
         EXPECT_FALSE(controls.empty());
         for (auto* const control : controls) {
-            EXPECT_NE(nameOf(control), "") << control->metaObject()->className() << " in "
-                                           << nameOf(control->parentWidget());
+            EXPECT_NE(nameOf(control), "")
+                << control->metaObject()->className() << " in " << nameOf(control->parentWidget());
         }
     }
 
@@ -201,8 +201,8 @@ TEST_F(KeyboardUseTest, TabGoesFromLeftToRightThroughTheLayouts)
         names.push_back(nameOf(widget));
     }
     const auto digit = layouts.content().digitToolTip;
-    EXPECT_EQ(names, (std::vector<std::string>{"Layouts", "Available", layouts.content().add.accessibleName,
-                                               remove, "Selected", digit, digit}));
+    EXPECT_EQ(names, (std::vector<std::string>{"Layouts", "Available", layouts.content().add.accessibleName, remove,
+                                               "Selected", digit, digit}));
 }
 
 } // namespace
