@@ -1,11 +1,14 @@
 #include "platform/x11/qt/FormPane.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 #include "platform/x11/qt/FormShape.h"
 #include "platform/x11/qt/GroupFrame.h"
@@ -75,12 +78,22 @@ void FormPane::scheduleRefresh()
 void FormPane::refresh()
 {
     const Form form = model.form();
-    if (body == nullptr || !hasSameShape(form, shown)) {
+    if (std::exchange(isBuildDue, false) || !hasSameShape(form, shown)) {
         build(form);
     }
     showForm(form);
     shown = form;
     showOverlays(form);
+}
+
+// With another font other columns fit.
+void FormPane::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        isBuildDue = true;
+        scheduleRefresh();
+    }
 }
 
 void FormPane::build(const Form& form)
@@ -100,12 +113,12 @@ void FormPane::build(const Form& form)
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(0);
 
-    auto* const content = new QWidget(body);
-    auto* const column = new QVBoxLayout(content);
-    column->setContentsMargins(paneMetrics::margin, paneMetrics::margin, paneMetrics::margin, paneMetrics::margin);
-    column->setSpacing(paneMetrics::groupSpacing);
-    addGroups(form, *column);
-    column->addStretch(1);
+    auto* content = createContent(form, Columns::several);
+    const int narrowest = window()->minimumWidth() - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    if (content->minimumSizeHint().width() > narrowest) {
+        delete content;
+        content = createContent(form, Columns::one);
+    }
     box->addWidget(scrolled(content, body), 1);
 
     for (const auto& group : form.groups) {
@@ -125,15 +138,25 @@ void FormPane::build(const Form& form)
     }
 }
 
-void FormPane::addGroups(const Form& form, QBoxLayout& column)
+QWidget* FormPane::createContent(const Form& form, Columns columns)
+{
+    auto* const content = new QWidget(body);
+    auto* const column = new QVBoxLayout(content);
+    column->setContentsMargins(paneMetrics::margin, paneMetrics::margin, paneMetrics::margin, paneMetrics::margin);
+    column->setSpacing(paneMetrics::groupSpacing);
+    addGroups(form, columns, *column);
+    column->addStretch(1);
+    return content;
+}
+
+void FormPane::addGroups(const Form& form, Columns columns, QBoxLayout& column)
 {
     if (!form.note.empty()) {
         column.addWidget(smallText(form.note, column.parentWidget()));
     }
-    const auto columns = groupColumns(form);
     auto* const line = new QHBoxLayout();
     line->setSpacing(paneMetrics::columnSpacing);
-    for (const auto& groups : columns) {
+    for (const auto& groups : groupColumns(form, columns)) {
         auto* const holder = new QWidget(column.parentWidget());
         auto* const box = new QVBoxLayout(holder);
         box->setContentsMargins(0, 0, 0, 0);

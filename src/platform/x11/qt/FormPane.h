@@ -11,6 +11,7 @@
 
 #include "base/Subscription.h"
 #include "platform/FormModel.h"
+#include "platform/x11/qt/FormShape.h"
 #include "platform/x11/qt/controls/FormControlWidget.h"
 
 namespace quorvel::x11 {
@@ -25,6 +26,9 @@ public:
     FormPane(FormModel& model, const ToolkitHost& host, QWidget* parent = nullptr);
     ~FormPane() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     struct RowWidgets {
         FormControlWidget* control = nullptr;
@@ -35,7 +39,8 @@ private:
     void scheduleRefresh();
     void refresh();
     void build(const Form& form);
-    void addGroups(const Form& form, QBoxLayout& column);
+    QWidget* createContent(const Form& form, Columns columns);
+    void addGroups(const Form& form, Columns columns, QBoxLayout& column);
     QWidget* createGroup(const FormGroup& group, QWidget* parent);
     void addRow(const FormRow& row, QBoxLayout& box, QWidget* parent);
     void showForm(const Form& form);
@@ -46,6 +51,7 @@ private:
     const ToolkitHost& host;
     Form shown;
     bool isRefreshDue = false;
+    bool isBuildDue = true;
     QWidget* body = nullptr;
     std::map<std::string, RowWidgets> rows;
     std::vector<QAbstractButton*> buttons;

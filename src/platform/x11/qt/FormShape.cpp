@@ -94,7 +94,7 @@ bool hasPreview(const FormGroup& group)
                                [](const FormRow& row) { return std::holds_alternative<PreviewControl>(row.control); });
 }
 
-std::vector<std::vector<std::size_t>> groupColumns(const Form& form)
+std::vector<std::vector<std::size_t>> groupColumns(const Form& form, Columns columns)
 {
     constexpr double longColumn = 12.0;
     std::vector<std::size_t> groups;
@@ -103,7 +103,7 @@ std::vector<std::vector<std::size_t>> groupColumns(const Form& form)
             groups.push_back(index);
         }
     }
-    if (height(form, groups) <= longColumn) {
+    if (columns == Columns::one || height(form, groups) <= longColumn) {
         return {groups};
     }
     const auto inOrder = splitInOrder(form, groups);

@@ -13,8 +13,10 @@ bool hasSameShape(const Form& one, const Form& other);
 
 bool hasPreview(const FormGroup& group);
 
-// The groups without previews, as indexes, column by column: one column, or two of about the same height where one
-// would be long.
-std::vector<std::vector<std::size_t>> groupColumns(const Form& form);
+enum class Columns { one, several };
+
+// The groups without previews, as indexes, column by column: one column, or, if there may be several, two of about the
+// same height where one would be long.
+std::vector<std::vector<std::size_t>> groupColumns(const Form& form, Columns columns);
 
 } // namespace quorvel::x11

@@ -48,6 +48,7 @@ QtPreferencesWindow::QtPreferencesWindow(PreferencesWindowModel& model, const To
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(0);
     box->addWidget(createTabs(content));
+    fitTabs();
     box->addWidget(new Separator(this));
     box->addWidget(panes, 1);
     panes->setCurrentIndex(static_cast<int>(model.selectedTab()));
@@ -71,7 +72,7 @@ QWidget* QtPreferencesWindow::createTabs(const PreferencesWindowContent& content
                              paneMetrics::titleSpacing);
     line->setSpacing(paneMetrics::titleSpacing);
     line->addStretch(1);
-    auto* const tabs = new QButtonGroup(this);
+    auto* const group = new QButtonGroup(this);
     for (std::size_t index = 0; index < content.tabs.size(); ++index) {
         auto* const tab = new TabButton(content.tabs[index].title, content.tabs[index].symbol, bar);
         tab->setChecked(index == model.selectedTab());
@@ -81,11 +82,12 @@ QWidget* QtPreferencesWindow::createTabs(const PreferencesWindowContent& content
                     tab->click();
                     tab->setFocus(Qt::ShortcutFocusReason);
                 });
-        tabs->addButton(tab, static_cast<int>(index));
+        group->addButton(tab, static_cast<int>(index));
+        tabs.push_back(tab);
         line->addWidget(tab);
     }
     line->addStretch(1);
-    connect(tabs, &QButtonGroup::idClicked, this, [this](int index) {
+    connect(group, &QButtonGroup::idClicked, this, [this](int index) {
         model.selectTab(static_cast<std::size_t>(index));
         panes->setCurrentIndex(index);
     });
@@ -115,7 +117,23 @@ void QtPreferencesWindow::changeEvent(QEvent* event)
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         callbacks.didBecomeActive();
     }
+    if (event->type() == QEvent::FontChange) {
+        fitTabs();
+    }
     QWidget::changeEvent(event);
+}
+
+// In the narrowest window every title is to be read in full, whatever the font.
+void QtPreferencesWindow::fitTabs()
+{
+    int width = 2 * paneMetrics::margin;
+    for (auto* const tab : tabs) {
+        tab->setWrapped(false);
+        width += tab->sizeHint().width() + paneMetrics::titleSpacing;
+    }
+    for (auto* const tab : tabs) {
+        tab->setWrapped(width > minimumWidth());
+    }
 }
 
 void QtPreferencesWindow::keyPressEvent(QKeyEvent* event)

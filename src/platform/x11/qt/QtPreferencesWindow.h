@@ -2,11 +2,14 @@
 
 #include <QStackedWidget>
 #include <QWidget>
+#include <vector>
 
 #include "platform/PreferencesWindowModel.h"
 #include "platform/x11/desktop/ToolkitUi.h"
 
 namespace quorvel::x11 {
+
+class TabButton;
 
 // The window with the panes, one for each tab. Tabs are buttons with a symbol over a title, in a row at the top.
 class QtPreferencesWindow final : public QWidget, public ToolkitWindow {
@@ -23,12 +26,14 @@ protected:
 
 private:
     QWidget* createTabs(const PreferencesWindowContent& content);
+    void fitTabs();
     QWidget* createPane(const PreferencesTab& tab);
 
     PreferencesWindowModel& model;
     const ToolkitHost& host;
     ToolkitWindowCallbacks callbacks;
     QStackedWidget* panes;
+    std::vector<TabButton*> tabs;
 };
 
 } // namespace quorvel::x11

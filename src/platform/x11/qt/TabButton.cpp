@@ -1,6 +1,7 @@
 #include "platform/x11/qt/TabButton.h"
 
 #include <QPainter>
+#include <cstdlib>
 
 #include "platform/x11/qt/QtText.h"
 #include "platform/x11/qt/Symbols.h"
@@ -22,10 +23,34 @@ TabButton::TabButton(const std::string& title, const std::string& symbol, QWidge
     setFocusPolicy(Qt::StrongFocus);
 }
 
+void TabButton::setWrapped(bool newWrapped)
+{
+    isWrapped = newWrapped;
+    updateGeometry();
+    update();
+}
+
 QSize TabButton::sizeHint() const
 {
-    const int textWidth = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-    return {textWidth + 3 * padding, symbolSide() + fontMetrics().height() + 2 * padding};
+    const auto size = fontMetrics().size(Qt::TextShowMnemonic, shownText());
+    const int lines = isWrapped ? 2 : 1;
+    return {size.width() + 3 * padding, symbolSide() + lines * fontMetrics().height() + 2 * padding};
+}
+
+// Broken at the space next to the middle.
+QString TabButton::shownText() const
+{
+    QString title = text();
+    qsizetype place = -1;
+    for (auto space = title.indexOf(' '); isWrapped && space >= 0; space = title.indexOf(' ', space + 1)) {
+        if (place < 0 || std::abs(2 * space - title.size()) < std::abs(2 * place - title.size())) {
+            place = space;
+        }
+    }
+    if (place >= 0) {
+        title[place] = '\n';
+    }
+    return title;
 }
 
 void TabButton::paintEvent(QPaintEvent* event)
@@ -48,7 +73,7 @@ void TabButton::paintEvent(QPaintEvent* event)
     symbolIcon(symbol, color).paint(&painter, (width() - side) / 2, padding, side, side);
     painter.setPen(color);
     painter.drawText(QRect(0, padding + side, width(), height() - padding - side - padding / 2),
-                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
+                     Qt::AlignCenter | Qt::TextShowMnemonic, shownText());
 }
 
 void TabButton::enterEvent(QEnterEvent* event)

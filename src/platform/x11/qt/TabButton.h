@@ -12,6 +12,9 @@ public:
 
     QSize sizeHint() const override;
 
+    // Two lines for the title instead of one.
+    void setWrapped(bool wrapped);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
@@ -20,7 +23,10 @@ protected:
 private:
     int symbolSide() const { return fontMetrics().height() * 3 / 2; }
 
+    QString shownText() const;
+
     std::string symbol;
+    bool isWrapped = false;
 };
 
 } // namespace quorvel::x11
