@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <algorithm>
 #include <iterator>
@@ -141,6 +143,24 @@ protected:
         }
     }
 
+    // Whether all that is to be seen of the window has the room that it needs.
+    static bool isNothingCut(const QWidget& whole)
+    {
+        const auto areas = whole.findChildren<QScrollArea*>();
+        const auto widgets = whole.findChildren<QWidget*>();
+        return std::ranges::all_of(areas,
+                                   [](const QScrollArea* area) {
+                                       return !area->isVisible() || area->horizontalScrollBar()->maximum() == 0;
+                                   }) &&
+               std::ranges::all_of(widgets, [&whole](const QWidget* widget) {
+                   const bool hasText = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                                        qobject_cast<const QLabel*>(widget) != nullptr;
+                   const int right = widget->mapTo(&whole, QPoint(widget->width(), 0)).x();
+                   return !hasText || !widget->isVisible() ||
+                          (right <= whole.width() && widget->width() >= widget->minimumSizeHint().width());
+               });
+    }
+
     SimulatedDesktop simulated;
     const Platform platform = simulated.platform();
     std::optional<PreferencesWindowController> controller;
@@ -203,6 +223,22 @@ TEST_F(KeyboardUseTest, TabGoesFromLeftToRightThroughTheLayouts)
     const auto digit = layouts.content().digitToolTip;
     EXPECT_EQ(names, (std::vector<std::string>{"Layouts", "Available", layouts.content().add.accessibleName, remove,
                                                "Selected", digit, digit}));
+}
+
+TEST_F(KeyboardUseTest, WithALargeFontNothingIsCutInTheSmallestWindow)
+{
+    window->resize(window->minimumSize());
+    for (const double factor : {1.0, 1.5}) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * factor);
+        QApplication::setFont(font);
+        for (const auto& tab : controller->content().tabs) {
+            button(tab.title)->click();
+            loop.waitFor("the smallest size", [&] { return window->size() == window->minimumSize(); });
+            QApplication::processEvents();
+            loop.waitFor("room for everything in " + tab.title, [&] { return isNothingCut(*window); });
+        }
+    }
 }
 
 } // namespace

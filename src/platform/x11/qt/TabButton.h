@@ -11,6 +11,7 @@ public:
     TabButton(const std::string& title, const std::string& symbol, QWidget* parent);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
     // Two lines for the title instead of one.
     void setWrapped(bool wrapped);
