@@ -165,13 +165,21 @@ protected:
     const Platform platform = simulated.platform();
     std::optional<PreferencesWindowController> controller;
     TextLayouts textLayouts{"sans"};
+    DesktopStyle style{.scheme = ColorScheme::dark, .font = "DejaVu Sans 9"};
+    std::function<void()> styleChanged;
     ToolkitModule toolkit{
         ToolkitModule::standardFile(),
         display.server.display(),
         {.imageFile = [this](std::string_view name, int pixels) { return bundle.imageFile(name, pixels); },
          .activate = [](std::uint32_t) {},
          .keyDown = [](std::uint8_t, std::uint16_t) { return EventHandling::pass; },
-         .textLayouts = textLayouts}};
+         .textLayouts = textLayouts,
+         .style = [this] { return style; },
+         .observeStyle =
+             [this](std::function<void()> changed) {
+                 styleChanged = std::move(changed);
+                 return Subscription();
+             }}};
     std::unique_ptr<ToolkitWindow> toolkitWindow;
     QWidget* window = nullptr;
 };
@@ -239,6 +247,21 @@ TEST_F(KeyboardUseTest, WithALargeFontNothingIsCutInTheSmallestWindow)
             loop.waitFor("room for everything in " + tab.title, [&] { return isNothingCut(*window); });
         }
     }
+}
+
+TEST_F(KeyboardUseTest, TheOpenWindowFollowsTheDesktopsColorsAndItsFont)
+{
+    const auto isDark = [this] { return window->palette().color(QPalette::Window).lightness() < 128; };
+    EXPECT_TRUE(isDark());
+    EXPECT_EQ(window->font().family().toStdString(), "DejaVu Sans");
+    EXPECT_EQ(window->font().pointSizeF(), 9.0);
+    EXPECT_FALSE(window->font().bold());
+
+    style = {.scheme = ColorScheme::light, .font = "DejaVu Sans Bold 11"};
+    styleChanged();
+    loop.waitFor("light colours", [&] { return !isDark(); });
+    loop.waitFor("the new font", [&] { return window->font().pointSizeF() == 11.0; });
+    EXPECT_TRUE(window->font().bold());
 }
 
 } // namespace
