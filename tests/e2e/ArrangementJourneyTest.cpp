@@ -31,12 +31,6 @@ protected:
         return areas;
     }
 
-    void waitForPanel(const xtest::StrutPanel& panel)
-    {
-        display.client.waitFor("the panel to be managed",
-                               [&] { return std::ranges::count(display.client.managedWindows(), panel.id()) == 1; });
-    }
-
     std::vector<xtest::Monitor> monitors = GetParam().monitors;
 };
 

@@ -188,6 +188,8 @@ TEST_F(LayoutJourney, PanelsStayUncovered)
     const auto window = openWindow();
     const xtest::StrutPanel top(display.server, screen, xtest::Side::top, 30);
     const xtest::StrutPanel left(display.server, screen, xtest::Side::left, 60);
+    waitForPanel(top);
+    waitForPanel(left);
     const PixelRect free{60, 30, 1860, 1050};
     showOverlay(fullScreen, free);
     display.keyboard.tap(XKB_KEY_3);

@@ -1,5 +1,7 @@
 #include "e2e/ProgramTest.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 namespace quorvel::e2e {
@@ -33,6 +35,12 @@ std::unique_ptr<xtest::TestWindow> ProgramTest::openWindow(const xtest::PixelRec
     window->map();
     display.client.activate(window->id());
     return window;
+}
+
+void ProgramTest::waitForPanel(const xtest::StrutPanel& panel)
+{
+    display.client.waitFor("the panel to be managed",
+                           [&] { return std::ranges::count(display.client.managedWindows(), panel.id()) == 1; });
 }
 
 void ProgramTest::switchSecondScreenOn()

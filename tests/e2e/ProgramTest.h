@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 
 #include "e2e/RunningQuorvel.h"
+#include "support/StrutPanel.h"
 #include "support/TemporaryDirectory.h"
 #include "support/TestDisplay.h"
 #include "support/TestWindow.h"
@@ -32,6 +33,9 @@ protected:
 
     // A window with the focus.
     std::unique_ptr<xtest::TestWindow> openWindow(const xtest::PixelRect& rect = {200, 150, 700, 500});
+
+    // Until the window manager counts it among its windows, which is when the program hears of it.
+    void waitForPanel(const xtest::StrutPanel& panel);
 
     void switchSecondScreenOn();
 
