@@ -39,6 +39,7 @@ X11Screens::X11Screens(Connection& connection, MainQueue& mainQueue, RootPropert
       mainQueue(mainQueue),
       rootProperties(rootProperties),
       struts(connection, rootProperties),
+      i3Socket(connection.atom("I3_SOCKET_PATH")),
       rootSize{static_cast<double>(connection.screen().width_in_pixels),
                static_cast<double>(connection.screen().height_in_pixels)}
 {
@@ -63,8 +64,8 @@ void X11Screens::watchPanels()
             invalidate();
         }
     };
-    // Not every window manager tells in a property that a panel has come, but its frame is mapped.
-    subscriptions.push_back(connection.selectEvents(connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY));
+    const auto socket = requestProperty(connection.xcb(), connection.root(), i3Socket).take();
+    watchFrames(text(socket.get()).empty() ? Presence::absent : Presence::there);
     subscriptions.push_back(connection.addHandler<xcb_map_notify_event_t>(XCB_MAP_NOTIFY, [this](const auto& event) {
         const bool isTopLevel = event.event == this->connection.root() && event.override_redirect == 0;
         if (isTopLevel || struts.isPanel(event.window)) {
@@ -73,6 +74,14 @@ void X11Screens::watchPanels()
     }));
     subscriptions.push_back(connection.addHandler<xcb_unmap_notify_event_t>(XCB_UNMAP_NOTIFY, invalidateFor));
     subscriptions.push_back(connection.addHandler<xcb_destroy_notify_event_t>(XCB_DESTROY_NOTIFY, invalidateFor));
+}
+
+// i3 tells in no property that a panel has come, but its frame is mapped. With other window managers nobody has to wake
+// up whenever any window moves.
+void X11Screens::watchFrames(Presence i3)
+{
+    frameEvents = i3 == Presence::there ? connection.selectEvents(connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY)
+                                        : Subscription();
 }
 
 // Virtual monitors come and go with nothing but a ConfigureNotify of the root; RandR tells of outputs only.
@@ -225,6 +234,10 @@ void X11Screens::handleConfigure(const xcb_configure_notify_event_t& event)
 
 void X11Screens::handlePropertyChange(const xcb_property_notify_event_t& event)
 {
+    if (event.window == connection.root() && event.atom == i3Socket) {
+        watchFrames(event.state == XCB_PROPERTY_NEW_VALUE ? Presence::there : Presence::absent);
+        invalidate();
+    }
     const auto& atoms = connection.atoms();
     const bool concernsPanel = event.atom == atoms.netWmStrut || event.atom == atoms.netWmStrutPartial;
     const bool concernsDesktop =

@@ -33,6 +33,8 @@ public:
     const ScreenCoordinates& coordinates();
 
 private:
+    enum class Presence { absent, there };
+
     const ScreenLayout& currentLayout();
     ScreenLayout readLayout();
     std::vector<Monitor> readMonitors() const;
@@ -40,6 +42,7 @@ private:
     RootPoint focusPoint();
     void watchRoot();
     void watchPanels();
+    void watchFrames(Presence i3);
     void watchMonitors();
     void invalidate();
     void handleConfigure(const xcb_configure_notify_event_t& event);
@@ -49,6 +52,8 @@ private:
     MainQueue& mainQueue;
     RootProperties& rootProperties;
     StrutReader struts;
+    xcb_atom_t i3Socket; // a property that i3 sets on the root
+    Subscription frameEvents;
     Size rootSize;
     std::optional<ScreenLayout> layout;
     xcb_atom_t gtkWorkareas = XCB_ATOM_NONE; // of the desktop that was current when the layout was read
