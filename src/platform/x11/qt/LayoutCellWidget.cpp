@@ -128,7 +128,11 @@ QLineEdit* LayoutCellWidget::addDigitField(const QString& digit, const QString& 
     field->setAlignment(Qt::AlignCenter);
     field->setToolTip(toolTip);
     field->setAccessibleName(toolTip);
-    connect(field, &QLineEdit::editingFinished, field, [field, ended = std::move(ended)] { ended(field->text()); });
+    connect(field, &QLineEdit::editingFinished, field, [field, ended = std::move(ended)] {
+        if (field->isModified()) { // not so where the keyboard has only passed by
+            ended(field->text());
+        }
+    });
     layout()->addWidget(field);
     return field;
 }

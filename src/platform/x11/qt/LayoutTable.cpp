@@ -17,7 +17,7 @@ LayoutTable::LayoutTable(Actions actions, QWidget* parent) : QListWidget(parent)
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    connect(this, &QListWidget::itemSelectionChanged, this, [this] { reportSelection(); });
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] { this->actions.select(selectedRows()); });
     connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         if (this->actions.click) {
             this->actions.click(static_cast<std::size_t>(row(item)));
@@ -54,6 +54,9 @@ void LayoutTable::setRows(const std::vector<Row>& rows)
 
 void LayoutTable::selectRows(const TableSelection& rows)
 {
+    if (rows == selectedRows()) {
+        return; // the current row stays where the person has put it
+    }
     const QSignalBlocker quiet(this);
     for (int index = 0; index < count(); ++index) {
         item(index)->setSelected(std::ranges::binary_search(rows, static_cast<std::size_t>(index)));
@@ -64,7 +67,7 @@ void LayoutTable::selectRows(const TableSelection& rows)
     viewport()->update();
 }
 
-void LayoutTable::reportSelection()
+TableSelection LayoutTable::selectedRows() const
 {
     TableSelection rows;
     for (int index = 0; index < count(); ++index) {
@@ -72,7 +75,7 @@ void LayoutTable::reportSelection()
             rows.push_back(static_cast<std::size_t>(index));
         }
     }
-    actions.select(rows);
+    return rows;
 }
 
 QStringList LayoutTable::mimeTypes() const

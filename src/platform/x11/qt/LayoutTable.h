@@ -54,7 +54,7 @@ protected:
 private:
     LayoutsPaneModel::DragSource sourceOf(const QDropEvent& event) const;
     std::size_t rowBefore(const QPoint& position) const;
-    void reportSelection();
+    TableSelection selectedRows() const;
 
     Actions actions;
     Dragging dragging;

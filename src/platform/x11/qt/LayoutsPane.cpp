@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -20,6 +21,11 @@ namespace {
 
 constexpr int innerSpacing = 6;
 constexpr int outerSpacing = 12;
+
+bool haveSameCells(const SelectedLayoutRow& one, const SelectedLayoutRow& other)
+{
+    return one.cell == other.cell && one.height == other.height;
+}
 
 QVBoxLayout* titledColumn(const std::string& title, LayoutTable* table, QWidget* parent)
 {
@@ -113,8 +119,9 @@ LayoutTable* LayoutsPane::createSelectedTable()
                             .activate = [this](std::size_t row) { model.doubleClickSelected(row); },
                             .remove =
                                 [this] {
-                                    if (shown.remove.isEnabled) {
-                                        model.press(shown.remove.id);
+                                    // What is shown may not have followed the selection yet.
+                                    if (const auto& button = model.content().remove; button.isEnabled) {
+                                        model.press(button.id);
                                     }
                                 },
                         },
@@ -147,8 +154,10 @@ void LayoutsPane::refresh()
     if (content.available != shown.available) {
         showAvailable(content);
     }
-    if (content.selected != shown.selected) {
+    if (!std::ranges::equal(content.selected, shown.selected, haveSameCells)) {
         showSelected(content);
+    } else if (content.selected != shown.selected) {
+        showDigits(content.selected);
     }
     available->selectRows(content.availableSelection);
     selected->selectRows(content.selectedSelection);
@@ -179,8 +188,9 @@ void LayoutsPane::showSelected(const LayoutsPaneContent& content)
     for (std::size_t index = 0; index < content.selected.size(); ++index) {
         const auto& row = content.selected[index];
         auto* const widget = new LayoutCellWidget(row.cell, host.textLayouts, selected);
-        digitFields.push_back(widget->addDigitField(text(row.digit), text(content.digitToolTip),
-                                                    [this, index](const QString& digit) { endEditing(index, digit); }));
+        digitFields.push_back(
+            widget->addDigitField(text(row.digit), text(content.digitToolTip),
+                                  [this, id = row.cell.layoutID](const QString& digit) { endEditing(id, digit); }));
         rows.push_back({widget, static_cast<int>(std::ceil(row.height)), true, text(row.cell.name)});
     }
     selected->setRows(rows);
@@ -188,6 +198,16 @@ void LayoutsPane::showSelected(const LayoutsPaneContent& content)
     for (auto* const field : digitFields) {
         setTabOrder(last, field); // new widgets come after everything else in the window
         last = field;
+    }
+}
+
+// In the fields that are there, so that the one with the keyboard keeps it.
+void LayoutsPane::showDigits(const std::vector<SelectedLayoutRow>& rows)
+{
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        if (!digitFields[index]->isModified()) {
+            digitFields[index]->setText(text(rows[index].digit));
+        }
     }
 }
 
@@ -206,13 +226,22 @@ QWidget* LayoutsPane::createHeader(const LayoutSectionHeader& header)
     return whole;
 }
 
-void LayoutsPane::endEditing(std::size_t row, const QString& digit)
+// A field that goes, since the order has changed, ends its editing, too: by then its row may be another layout's.
+void LayoutsPane::endEditing(const std::string& layoutID, const QString& digit)
 {
-    model.endEditingDigit(row, utf8(digit));
+    const auto selectedRows = model.content().selected;
+    const auto row =
+        std::ranges::find(selectedRows, layoutID, [](const SelectedLayoutRow& each) { return each.cell.layoutID; });
+    if (row == selectedRows.end()) {
+        return;
+    }
+    model.endEditingDigit(static_cast<std::size_t>(row - selectedRows.begin()), utf8(digit));
     // What was refused goes from the field, too.
     const auto content = model.content();
-    if (row < content.selected.size() && row < digitFields.size()) {
-        digitFields[row]->setText(text(content.selected[row].digit));
+    for (std::size_t index = 0; index < content.selected.size() && index < digitFields.size(); ++index) {
+        if (content.selected[index].cell.layoutID == layoutID) {
+            digitFields[index]->setText(text(content.selected[index].digit));
+        }
     }
 }
 

@@ -25,10 +25,11 @@ private:
     void refresh();
     void showAvailable(const LayoutsPaneContent& content);
     void showSelected(const LayoutsPaneContent& content);
+    void showDigits(const std::vector<SelectedLayoutRow>& rows);
     QWidget* createHeader(const LayoutSectionHeader& header);
     LayoutTable* createAvailableTable();
     LayoutTable* createSelectedTable();
-    void endEditing(std::size_t row, const QString& digit);
+    void endEditing(const std::string& layoutID, const QString& digit);
 
     LayoutsPaneModel& model;
     const ToolkitHost& host;
