@@ -21,7 +21,7 @@ protected:
         if (!xtest::SystemTray::isInstalled()) {
             GTEST_SKIP() << "needs trayer";
         }
-        tray = std::make_unique<xtest::SystemTray>(display.server, display.client);
+        tray = std::make_unique<xtest::SystemTray>(display.server, display.client, screen);
         // With somewhere to look for updates every entry of the menu down to the preferences can be chosen.
         start({.environment = {{"QUORVEL_UPDATE_FEED", "http://127.0.0.1:9/"}}});
     }

@@ -1,19 +1,23 @@
 #include "support/SystemTray.h"
 
+#include <string>
+
 namespace quorvel::xtest {
 
 namespace {
 
 constexpr auto selection = "_NET_SYSTEM_TRAY_S0";
+constexpr int height = 24;
 
-}
+} // namespace
 
-SystemTray::SystemTray(const XServer& server, XClient& client) : client(client)
+SystemTray::SystemTray(const XServer& server, XClient& client, const PixelRect& monitor)
+    : client(client), monitor(monitor)
 {
     client.watchSelection(selection);
-    child = std::make_unique<ChildProcess>(
-        Command{{"trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "24"},
-                server.clientEnvironment()});
+    child = std::make_unique<ChildProcess>(Command{{"trayer", "--edge", "bottom", "--align", "right", "--widthtype",
+                                                    "request", "--height", std::to_string(height)},
+                                                   server.clientEnvironment()});
     client.waitFor("the tray", [&] { return client.selectionOwner(selection) != XCB_NONE; });
 }
 
@@ -24,9 +28,14 @@ bool SystemTray::isInstalled()
 
 std::optional<PixelRect> SystemTray::iconOf(pid_t process)
 {
-    // A tray that is finding its place lies outside of the display for a while.
+    // A tray that is finding its place lies elsewhere for a while.
+    const auto isInCorner = [this](const PixelRect& rect) {
+        const int right = monitor.x + monitor.width - (rect.x + rect.width);
+        const int below = monitor.y + monitor.height - (rect.y + rect.height);
+        return right >= 0 && right < height && below >= 0 && below < height;
+    };
     const auto icon = iconIn(client.root(), process);
-    return icon && icon->x >= 0 && icon->y >= 0 ? icon : std::nullopt;
+    return icon && isInCorner(*icon) ? icon : std::nullopt;
 }
 
 std::optional<PixelRect> SystemTray::iconIn(xcb_window_t window, pid_t process)

@@ -10,10 +10,10 @@
 
 namespace quorvel::xtest {
 
-// A panel with a system tray at the bottom right of the display, in charge when the constructor returns.
+// A panel with a system tray at the bottom right of the primary monitor, in charge when the constructor returns.
 class SystemTray {
 public:
-    SystemTray(const XServer& server, XClient& client);
+    SystemTray(const XServer& server, XClient& client, const PixelRect& monitor);
 
     static bool isInstalled();
 
@@ -27,6 +27,7 @@ private:
     std::optional<PixelRect> iconIn(xcb_window_t window, pid_t process);
 
     XClient& client;
+    PixelRect monitor;
     std::unique_ptr<ChildProcess> child;
 };
 

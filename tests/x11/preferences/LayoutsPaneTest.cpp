@@ -64,6 +64,23 @@ TEST_F(LayoutsPane, SeveralRowsAreDraggedAsOneBlock)
     });
 }
 
+TEST_F(LayoutsPane, ADigitMovesFromItsOldOwner)
+{
+    inPane("Layouts", [&] {
+        person.clickRow("Selected", "Full Screen");
+        person.typeDigit("Centered", {XKB_KEY_7});
+        waitForDigit("Centered", "7");
+        person.typeDigit("Four Tiles", {XKB_KEY_7});
+        waitUntilStored("layoutShortcuts", digits({{"one_full_screen", "1"},
+                                                   {"two_side_by_side", "3"},
+                                                   {"two_stacked", "4"},
+                                                   {"three_side_by_side", "5"},
+                                                   {"four_tiled", "7"}}));
+        waitForDigit("Centered", "");
+        EXPECT_EQ(person.rows("Selected").size(), 6U) << "Return in a field removes nothing";
+    });
+}
+
 TEST_F(LayoutsPane, WhatIsNoDigitGoesAndAnEmptyFieldTakesTheDigitAway)
 {
     inPane("Layouts", [&] {
@@ -80,6 +97,39 @@ TEST_F(LayoutsPane, WhatIsNoDigitGoesAndAnEmptyFieldTakesTheDigitAway)
                                                    {"two_stacked", "4"},
                                                    {"three_side_by_side", "5"},
                                                    {"four_tiled", "6"}}));
+    });
+}
+
+TEST_F(LayoutsPane, DigitsAreTypedFromFieldToFieldByTheTabKey)
+{
+    inPane("Layouts", [&] {
+        person.typeDigit("Centered", {XKB_KEY_9});
+        waitForDigit("Centered", "9");
+        for (const auto key : {XKB_KEY_Tab, XKB_KEY_8, XKB_KEY_Tab, XKB_KEY_7, XKB_KEY_Tab}) {
+            person.tap(static_cast<xcb_keysym_t>(key));
+        }
+        waitUntilStored("layoutShortcuts", digits({{"one_full_screen", "1"},
+                                                   {"centered", "9"},
+                                                   {"two_side_by_side", "8"},
+                                                   {"two_stacked", "7"},
+                                                   {"three_side_by_side", "5"},
+                                                   {"four_tiled", "6"}}));
+    });
+}
+
+TEST_F(LayoutsPane, ADigitFieldStaysWithItsLayoutWhenTheOrderChangesUnderIt)
+{
+    inPane("Layouts", [&] {
+        person.typeDigit("Centered", {XKB_KEY_8});
+        waitForDigit("Centered", "8");
+        const auto before = stored("layoutShortcuts");
+        changeFromOutside("selectedLayoutIDs", strings({"four_tiled", "two_stacked", "centered", "one_full_screen"}));
+        session.waitFor("the other order", [] {
+            return ShellPerson::list("Selected") != nullptr && ShellPerson::list("Selected")->count() == 4;
+        });
+        person.clickRow("Selected", "Full Screen");
+        session.waitFor("the selection", [] { return ShellPerson::list("Selected")->selectedItems().size() == 1; });
+        EXPECT_EQ(stored("layoutShortcuts"), before);
     });
 }
 

@@ -34,7 +34,8 @@ protected:
             GTEST_SKIP() << "needs trayer";
         }
         display.startWindowManager(xtest::WindowManager::openbox);
-        tray.emplace(display.server, display.client);
+        tray.emplace(display.server, display.client,
+                     xtest::PixelRect{0, 0, display.server.width(), display.server.height()});
     }
 
     // Runs the program; what the person does begins with the pane of that title in front of her.

@@ -55,6 +55,20 @@ QLineEdit* digitField(const std::string& row)
     return found != nullptr ? found->listWidget()->itemWidget(found)->findChild<QLineEdit*>() : nullptr;
 }
 
+// Counts the clicks that have reached the program.
+class ClickListener final : public QObject {
+public:
+    ClickListener() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        clicks += watched->isWindowType() && event->type() == QEvent::MouseButtonRelease ? 1 : 0;
+        return false;
+    }
+
+    int clicks = 0;
+};
+
 // Tells where on the screen a widget was offered a drag last, and where the mouse was pulled over it before.
 class DragListener final : public QObject {
 public:
@@ -115,7 +129,7 @@ void ShellPerson::openPreferences(xtest::SystemTray& tray)
         }
         return std::nullopt;
     });
-    display.keyboard.click(entry.x(), entry.y());
+    clickAt(entry);
     waitForWindow("Preferences");
 }
 
@@ -158,6 +172,22 @@ QPoint ShellPerson::waitForPlace(const std::string& what, const std::function<st
     return *found;
 }
 
+// Window managers hold a click back for a moment to look at it, and a key would overtake it.
+void ShellPerson::clickAt(const QPoint& place)
+{
+    std::unique_ptr<ClickListener> listener;
+    session.ask([&] {
+        listener = std::make_unique<ClickListener>();
+        return true;
+    });
+    display.keyboard.click(place.x(), place.y());
+    session.waitFor("the click", [&] { return listener->clicks > 0; });
+    session.ask([&] {
+        listener.reset();
+        return true;
+    });
+}
+
 void ShellPerson::click(const std::string& name)
 {
     const auto place = waitForPlace("the control \"" + name + "\"", [&]() -> std::optional<QPoint> {
@@ -169,7 +199,7 @@ void ShellPerson::click(const std::string& name)
         const auto center = widget->mapToGlobal(widget->rect().center());
         return isHit(*widget, center) ? std::optional(center) : std::nullopt;
     });
-    display.keyboard.click(place.x(), place.y());
+    clickAt(place);
 }
 
 void ShellPerson::focus(const std::string& name)
@@ -211,7 +241,7 @@ void ShellPerson::clickRow(const std::string& table, const std::string& row, con
     for (const auto modifier : modifiers) {
         display.keyboard.pressModifier(modifier);
     }
-    display.keyboard.click(place.x(), place.y());
+    clickAt(place);
     for (const auto modifier : modifiers) {
         display.keyboard.releaseModifier(modifier);
     }
@@ -220,8 +250,8 @@ void ShellPerson::clickRow(const std::string& table, const std::string& row, con
 void ShellPerson::doubleClickRow(const std::string& table, const std::string& row)
 {
     const auto place = placeOfRow(table, row, 0.5);
-    display.keyboard.click(place.x(), place.y());
-    display.keyboard.click(place.x(), place.y());
+    clickAt(place);
+    clickAt(place);
 }
 
 void ShellPerson::dragRowBefore(const std::string& table, const std::string& row, const std::string& target)
@@ -271,7 +301,7 @@ void ShellPerson::typeDigit(const std::string& row, const std::vector<xcb_keysym
         const auto center = field->mapToGlobal(field->rect().center());
         return isHit(*field, center) ? std::optional(center) : std::nullopt;
     });
-    display.keyboard.click(place.x(), place.y());
+    clickAt(place);
     display.keyboard.tap({Modifier::control}, XKB_KEY_a);
     display.keyboard.tap(XKB_KEY_BackSpace);
     for (const auto key : keys) {

@@ -58,6 +58,7 @@ public:
 private:
     enum class Side { before, behind };
 
+    void clickAt(const QPoint& place);
     void drag(const std::string& table, const std::string& row, const std::string& target, Side side);
     QPoint waitForPlace(const std::string& what, const std::function<std::optional<QPoint>()>& place);
     QPoint placeOfRow(const std::string& table, const std::string& row, double fromTop);

@@ -2,6 +2,7 @@
 
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -57,6 +58,14 @@ public:
     using QLineEdit::QLineEdit;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        QLineEdit::keyPressEvent(event);
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            event->accept(); // it ends the editing, and is not for the row around the field
+        }
+    }
+
     void paintEvent(QPaintEvent* event) override
     {
         constexpr double radius = 2.0;
