@@ -23,7 +23,8 @@ Album::Album(const Look& look, const std::filesystem::path& program, const std::
 {
     display.client.watchPainting();
     display.startWindowManager(xtest::WindowManager::openbox);
-    tray = std::make_unique<xtest::SystemTray>(display.server, display.client);
+    tray = std::make_unique<xtest::SystemTray>(display.server, display.client,
+                                               xtest::PixelRect{0, 0, screen.width, screen.height});
     quorvel = std::make_unique<e2e::RunningQuorvel>(
         display, program, configuration,
         // With somewhere to look for updates everything in the menu and in the panes can be chosen.

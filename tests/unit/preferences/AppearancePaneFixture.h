@@ -69,7 +69,8 @@ protected:
     {
         press("Manage Themes…");
         std::vector<std::string> names;
-        for (const auto& row : pane.form().sheet->rows) {
+        const auto sheet = pane.form().sheet.value();
+        for (const auto& row : sheet.rows) {
             names.push_back(row.title);
         }
         press("Close");

@@ -42,7 +42,8 @@ protected:
     std::vector<std::string> names()
     {
         std::vector<std::string> result;
-        for (const auto& theme : BasicThemeStore<Record>(Settings(desktop.userDefaults), desktop.log).themes()) {
+        const BasicThemeStore<Record> saved(Settings(desktop.userDefaults), desktop.log);
+        for (const auto& theme : saved.themes()) {
             result.push_back(theme.name);
         }
         EXPECT_EQ(result.size(), store.themes().size());
