@@ -9,7 +9,7 @@ debianPackages() {
         ;;
     x11)
         echo qt6-base-dev qt6-svg-dev libglib2.0-dev libcairo2-dev libpango1.0-dev libxkbcommon-dev libxkbcommon-x11-dev
-        echo libplist-dev libicu-dev
+        echo libplist-dev libicu-dev libsoup-3.0-dev glib-networking
         echo libxcb1-dev libxcb-randr0-dev libxcb-res0-dev libxcb-shape0-dev libxcb-xfixes0-dev libxcb-xinput-dev
         echo libxcb-render0-dev libxcb-render-util0-dev libxcb-xkb-dev libxcb-keysyms1-dev libxcb-icccm4-dev
         # the tests that are built beside them
