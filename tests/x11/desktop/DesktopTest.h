@@ -9,8 +9,8 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
 #include "platform/x11/desktop/X11Bundle.h"
-#include "support/ChildProcess.h"
 #include "support/Screenshot.h"
+#include "support/SystemTray.h"
 #include "support/TestDisplay.h"
 #include "x11/windows/AdapterLoop.h"
 
@@ -19,15 +19,11 @@ namespace quorvel::x11 {
 // A display with the adapters' connection, and what the desktop around them may have.
 class DesktopTest : public testing::Test {
 protected:
-    // A tray at the bottom right of the display; in charge once its selection has an owner.
-    std::unique_ptr<xtest::ChildProcess> startTray()
+    std::unique_ptr<xtest::SystemTray> startTray()
     {
-        display.client.watchSelection(traySelection);
-        auto tray = std::make_unique<xtest::ChildProcess>(xtest::Command{
-            {"trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "24"},
-            display.server.clientEnvironment()});
-        loop.waitFor("the tray", [&] { return display.client.selectionOwner(traySelection) != XCB_NONE; });
-        return tray;
+        const auto& root = display.client.screen();
+        return std::make_unique<xtest::SystemTray>(display.server, display.client,
+                                                   xtest::PixelRect{0, 0, root.width_in_pixels, root.height_in_pixels});
     }
 
     // The windows of the adapters' connection that can be seen, wherever they are embedded.
@@ -59,8 +55,6 @@ protected:
     X11Bundle bundle{X11Bundle::standardDirectories()};
 
 private:
-    static constexpr auto traySelection = "_NET_SYSTEM_TRAY_S0";
-
     std::vector<xcb_window_t> ownWindowsIn(xcb_window_t parent)
     {
         std::vector<xcb_window_t> windows;

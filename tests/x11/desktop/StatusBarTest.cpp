@@ -31,7 +31,7 @@ class StatusBarTest : public DesktopTest {
 protected:
     void SetUp() override
     {
-        if (!xtest::findProgram("trayer")) {
+        if (!xtest::SystemTray::isInstalled()) {
             GTEST_SKIP() << "needs trayer";
         }
     }
@@ -91,7 +91,7 @@ TEST_F(StatusBarTest, AnItemAppearsInARunningTray)
     const auto tray = startTray();
     const auto item = createItem();
     const auto icon = iconWindow();
-    EXPECT_EQ(display.client.processOf(display.client.topLevelOf(icon)), tray->id());
+    EXPECT_EQ(display.client.processOf(display.client.topLevelOf(icon)), tray->process());
     EXPECT_GE(rectOf(icon).height, 16);
 }
 
@@ -101,7 +101,7 @@ TEST_F(StatusBarTest, AnItemAppearsAsSoonAsATrayRuns)
     loop.drain();
     EXPECT_TRUE(ownWindows().empty());
     const auto tray = startTray();
-    EXPECT_EQ(display.client.processOf(display.client.topLevelOf(iconWindow())), tray->id());
+    EXPECT_EQ(display.client.processOf(display.client.topLevelOf(iconWindow())), tray->process());
 }
 
 TEST_F(StatusBarTest, AnItemMovesToTheNextTray)
@@ -112,7 +112,7 @@ TEST_F(StatusBarTest, AnItemMovesToTheNextTray)
     tray.reset();
     loop.waitFor("the icon to go", [&] { return ownWindows().empty(); });
     tray = startTray();
-    EXPECT_EQ(display.client.processOf(display.client.topLevelOf(iconWindow())), tray->id());
+    EXPECT_EQ(display.client.processOf(display.client.topLevelOf(iconWindow())), tray->process());
 }
 
 TEST_F(StatusBarTest, ADestroyedItemLeavesTheTray)

@@ -1,13 +1,11 @@
 #include "platform/x11/desktop/ToolkitModule.h"
 
 #include <cstdio>
-#include <system_error>
 #include <utility>
 
-#include <dlfcn.h>
 #include <fmt/format.h>
 
-#include "platform/x11/desktop/BuildFacts.h"
+#include "platform/x11/desktop/LoadableModule.h"
 
 namespace quorvel::x11 {
 
@@ -17,9 +15,7 @@ ToolkitModule::ToolkitModule(std::filesystem::path file, std::string displayName
 
 std::filesystem::path ToolkitModule::standardFile()
 {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return program.parent_path() / buildFacts::programsToModules / "quorvel-qt.so";
+    return moduleFile("quorvel-qt.so");
 }
 
 void ToolkitModule::openMenu(const Menu& menu, std::function<void(MenuCommand)> onCommand)
@@ -60,19 +56,12 @@ ToolkitUi* ToolkitModule::loaded()
 
 std::unique_ptr<ToolkitUi> ToolkitModule::load() const
 {
-    // Never unloaded: Qt leaves threads and exit handlers behind.
-    void* const module = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
-    if (module == nullptr) {
-        fmt::print(stderr, "Menus, windows and alerts cannot be shown: {}\n", dlerror());
+    const auto entry = moduleFunction(file, toolkitEntryName);
+    if (!entry) {
+        fmt::print(stderr, "Menus, windows and alerts cannot be shown: {}.\n", entry.error());
         return nullptr;
     }
-    auto* const entry = reinterpret_cast<ToolkitEntry*>(dlsym(module, toolkitEntryName));
-    if (entry == nullptr) {
-        fmt::print(stderr, "Menus, windows and alerts cannot be shown: {} is not a module of this program.\n",
-                   file.string());
-        return nullptr;
-    }
-    return std::unique_ptr<ToolkitUi>(entry(displayName.c_str(), host));
+    return std::unique_ptr<ToolkitUi>(reinterpret_cast<ToolkitEntry*>(*entry)(displayName.c_str(), host));
 }
 
 } // namespace quorvel::x11

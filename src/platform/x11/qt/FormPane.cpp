@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QStyle>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <ranges>
@@ -58,22 +57,10 @@ FormPane::FormPane(FormModel& model, const ToolkitHost& host, QWidget* parent)
     auto* const box = new QVBoxLayout(this);
     box->setContentsMargins(0, 0, 0, 0);
     refresh();
-    changes = model.observe([this] { scheduleRefresh(); });
+    changes = model.observe([this] { refreshing.schedule(); });
 }
 
 FormPane::~FormPane() = default;
-
-// The model may change inside a call that a widget's own signal makes, and a refresh may replace that widget.
-void FormPane::scheduleRefresh()
-{
-    if (!isRefreshDue) {
-        isRefreshDue = true;
-        QTimer::singleShot(0, this, [this] {
-            isRefreshDue = false;
-            refresh();
-        });
-    }
-}
 
 void FormPane::refresh()
 {
@@ -92,7 +79,7 @@ void FormPane::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
         isBuildDue = true;
-        scheduleRefresh();
+        refreshing.schedule();
     }
 }
 

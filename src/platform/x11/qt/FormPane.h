@@ -12,6 +12,7 @@
 #include "base/Subscription.h"
 #include "platform/FormModel.h"
 #include "platform/x11/qt/FormShape.h"
+#include "platform/x11/qt/LaterCall.h"
 #include "platform/x11/qt/controls/FormControlWidget.h"
 
 namespace quorvel::x11 {
@@ -36,7 +37,6 @@ private:
         QLabel* help = nullptr;
     };
 
-    void scheduleRefresh();
     void refresh();
     void build(const Form& form);
     QWidget* createContent(const Form& form, Columns columns);
@@ -50,7 +50,7 @@ private:
     FormModel& model;
     const ToolkitHost& host;
     Form shown;
-    bool isRefreshDue = false;
+    LaterCall refreshing{[this] { refresh(); }}; // a change may come from inside a signal of a widget that goes
     bool isBuildDue = true;
     QWidget* body = nullptr;
     std::map<std::string, RowWidgets> rows;

@@ -1,7 +1,6 @@
 #include "platform/x11/qt/LayoutsPane.h"
 
 #include <QHBoxLayout>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
@@ -88,7 +87,7 @@ LayoutsPane::LayoutsPane(LayoutsPaneModel& model, const ToolkitHost& host, QWidg
     box->addWidget(tip);
 
     refresh();
-    changes = model.observe([this] { scheduleRefresh(); });
+    changes = model.observe([this] { refreshing.schedule(); });
 }
 
 LayoutsPane::~LayoutsPane() = default;
@@ -134,18 +133,6 @@ LayoutTable* LayoutsPane::createSelectedTable()
                        std::size_t beforeRow) { return model.drop(source, items, beforeRow); },
     });
     return table;
-}
-
-// As in FormPane: the change may come from inside a signal of a widget that the refresh replaces.
-void LayoutsPane::scheduleRefresh()
-{
-    if (!isRefreshDue) {
-        isRefreshDue = true;
-        QTimer::singleShot(0, this, [this] {
-            isRefreshDue = false;
-            refresh();
-        });
-    }
 }
 
 void LayoutsPane::refresh()

@@ -8,6 +8,7 @@
 
 #include "base/Subscription.h"
 #include "platform/LayoutsPaneModel.h"
+#include "platform/x11/qt/LaterCall.h"
 
 namespace quorvel::x11 {
 
@@ -21,7 +22,6 @@ public:
     ~LayoutsPane() override;
 
 private:
-    void scheduleRefresh();
     void refresh();
     void showAvailable(const LayoutsPaneContent& content);
     void showSelected(const LayoutsPaneContent& content);
@@ -34,7 +34,7 @@ private:
     LayoutsPaneModel& model;
     const ToolkitHost& host;
     LayoutsPaneContent shown;
-    bool isRefreshDue = false;
+    LaterCall refreshing{[this] { refresh(); }}; // a change may come from inside a signal of a widget that goes
     LayoutTable* available;
     LayoutTable* selected;
     QAbstractButton* add;

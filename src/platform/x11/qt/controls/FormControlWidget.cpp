@@ -16,54 +16,28 @@ namespace quorvel::x11 {
 
 namespace {
 
-template <class Control>
-struct WidgetOf;
-template <>
-struct WidgetOf<ColorControl> {
-    using Type = ColorWidget;
-};
-template <>
-struct WidgetOf<SliderControl> {
-    using Type = SliderWidget;
-};
-template <>
-struct WidgetOf<StepperControl> {
-    using Type = StepperWidget;
-};
-template <>
-struct WidgetOf<ToggleControl> {
-    using Type = ToggleWidget;
-};
-template <>
-struct WidgetOf<PickerControl> {
-    using Type = PickerWidget;
-};
-template <>
-struct WidgetOf<ButtonControl> {
-    using Type = ButtonWidget;
-};
-template <>
-struct WidgetOf<ShortcutControl> {
-    using Type = ShortcutWidget;
-};
-template <>
-struct WidgetOf<StatusControl> {
-    using Type = StatusWidget;
-};
-template <>
-struct WidgetOf<PreviewControl> {
-    using Type = PreviewWidget;
+// Makes the widget of each kind of control.
+struct WidgetMaker {
+    FormControlWidget* operator()(const ColorControl&) const { return new ColorWidget(pane, row, parent); }
+    FormControlWidget* operator()(const SliderControl&) const { return new SliderWidget(pane, row, parent); }
+    FormControlWidget* operator()(const StepperControl&) const { return new StepperWidget(pane, row, parent); }
+    FormControlWidget* operator()(const ToggleControl&) const { return new ToggleWidget(pane, row, parent); }
+    FormControlWidget* operator()(const PickerControl&) const { return new PickerWidget(pane, row, parent); }
+    FormControlWidget* operator()(const ButtonControl&) const { return new ButtonWidget(pane, row, parent); }
+    FormControlWidget* operator()(const ShortcutControl&) const { return new ShortcutWidget(pane, row, parent); }
+    FormControlWidget* operator()(const StatusControl&) const { return new StatusWidget(pane, row, parent); }
+    FormControlWidget* operator()(const PreviewControl&) const { return new PreviewWidget(pane, row, parent); }
+
+    const ControlPane& pane;
+    const FormRow& row;
+    QWidget* parent;
 };
 
 } // namespace
 
 FormControlWidget* createControlWidget(const ControlPane& pane, const FormRow& row, QWidget* parent)
 {
-    auto* const widget = std::visit(
-        [&]<class Control>(const Control&) -> FormControlWidget* {
-            return new typename WidgetOf<Control>::Type(pane, row, parent);
-        },
-        row.control);
+    auto* const widget = std::visit(WidgetMaker{pane, row, parent}, row.control);
     widget->showRow(row);
     return widget;
 }
