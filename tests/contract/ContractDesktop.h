@@ -31,6 +31,7 @@ struct ContractScreen {
 enum class Capability {
     denyPermissions, // the platform has permissions, and the test can take one away
     keepKeysOfATap,  // a held key that a tap took stays taken until it is released
+    showStatusItems, // there is somewhere to show them, and a person can choose from their menus
 };
 
 // A desktop with the ports of one platform under test, and the verbs of the person and the other programs on it. It is

@@ -37,6 +37,7 @@ bool SimulatedContractDesktop::can(Capability capability) const
     switch (capability) {
     case Capability::denyPermissions:
     case Capability::keepKeysOfATap:
+    case Capability::showStatusItems:
         return true;
     }
     return false;

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "base/FatalError.h"
 #include "support/Patience.h"
@@ -55,6 +57,8 @@ X11ContractDesktop::X11ContractDesktop()
       alerts(bundle, menus),
       loginItem({files.path() / "autostart", {}, "/bin/true"}),
       updater(openUpdater()),
+      toolkit(x11::ToolkitModule::standardFile(), display.server.display(), toolkitHost()),
+      preferencesUi(toolkit, notificationCenter),
       session(display.client, files.path() / "autostart", [this] { return openUpdater(); }),
       person(display.server, display.keyboard, *keyboard),
       probe(display.server, {})
@@ -82,9 +86,20 @@ ContractPorts X11ContractDesktop::ports()
             .overlayWindows = &overlays,
             .textMetrics = &textMetrics,
             .statusBar = &statusBar,
+            .preferencesUi = &preferencesUi,
             .loginItem = &loginItem,
             .updater = updater.get(),
             .session = &session};
+}
+
+// Without a style, so that the toolkit looks as it likes.
+x11::ToolkitHost X11ContractDesktop::toolkitHost()
+{
+    return {.imageFile = [this](std::string_view name, int size) { return bundle.imageFile(name, size); },
+            .activate = [this](std::uint32_t window) { windows.windowManager.activate(window); },
+            .keyDown = [this](std::uint8_t keycode,
+                              std::uint16_t state) { return keys.eventMonitors.reportLocalKeyDown(keycode, state); },
+            .textLayouts = textLayouts};
 }
 
 bool X11ContractDesktop::can(Capability capability) const
@@ -94,6 +109,8 @@ bool X11ContractDesktop::can(Capability capability) const
         return false;
     case Capability::keepKeysOfATap:
         return true;
+    case Capability::showStatusItems:
+        return xtest::SystemTray::isInstalled();
     }
     return false;
 }
@@ -276,16 +293,20 @@ void X11ContractDesktop::clickMouse(AxPoint point)
 
 std::vector<AxRect> X11ContractDesktop::ownWindowsOnScreen()
 {
-    const auto& setup = *xcb_get_setup(connection->xcb());
     connection->sync();
     std::vector<AxRect> frames;
     for (const auto window : display.client.children(display.client.root())) {
-        const bool isOwn = (window & ~setup.resource_id_mask) == setup.resource_id_base;
-        if (isOwn && display.client.isViewable(window)) {
+        if (isOwn(window) && display.client.isViewable(window)) {
             frames.insert(frames.begin(), display.client.clientRect(window)->inPoints());
         }
     }
     return frames;
+}
+
+bool X11ContractDesktop::isOwn(xcb_window_t window) const
+{
+    const auto& setup = *xcb_get_setup(connection->xcb());
+    return (window & ~setup.resource_id_mask) == setup.resource_id_base;
 }
 
 UserDefaults& X11ContractDesktop::reopenedUserDefaults()
@@ -314,18 +335,33 @@ void X11ContractDesktop::deny(Permission /*permission*/)
 
 bool X11ContractDesktop::chooseFromStatusMenu(std::string_view title)
 {
+    auto& client = display.client;
     if (!tray) {
-        tray = std::make_unique<ContractTray>(display.server);
+        const auto& screen = client.screen();
+        tray.emplace(display.server, client, PixelRect{0, 0, screen.width_in_pixels, screen.height_in_pixels});
     }
-    settle();
-    const auto icon = tray->icon();
-    if (icon == XCB_WINDOW_NONE) {
+    settle(); // who has an item has made a window for it, which the tray then takes in
+    if (!hasTrayIcon()) {
         return false;
     }
-    const auto place = display.client.clientRect(icon).value();
-    display.keyboard.click(place.x + place.width / 2, place.y + place.height / 2);
+    std::optional<PixelRect> place;
+    loop.waitFor("the icon in the tray", [&] { return (place = tray->iconOf(getpid())).has_value(); });
+    display.keyboard.click(place->x + place->width / 2, place->y + place->height / 2);
     loop.waitFor("the menu of the status item", [this] { return menus.isOpen(); });
     return menus.choose(title);
+}
+
+bool X11ContractDesktop::hasTrayIcon()
+{
+    auto& client = display.client;
+    auto windows = client.children(client.root());
+    for (std::size_t index = 0; index < windows.size(); ++index) {
+        if (isOwn(windows[index]) && client.hasProperty(windows[index], "_XEMBED_INFO")) {
+            return true;
+        }
+        std::ranges::copy(client.children(windows[index]), std::back_inserter(windows));
+    }
+    return false;
 }
 
 // The test's own resources, then those of the program.

@@ -2,22 +2,24 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "contract/ContractDesktop.h"
 #include "contract/x11/ContractApplication.h"
 #include "contract/x11/ContractKeyboard.h"
 #include "contract/x11/ContractMenus.h"
-#include "contract/x11/ContractTray.h"
 #include "contract/x11/ContractUpdater.h"
 #include "contract/x11/X11SessionVerbs.h"
 #include "platform/LocalNotificationCenter.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
+#include "platform/x11/desktop/ToolkitModule.h"
 #include "platform/x11/desktop/X11Alerts.h"
 #include "platform/x11/desktop/X11Bundle.h"
 #include "platform/x11/desktop/X11Dates.h"
 #include "platform/x11/desktop/X11LoginItem.h"
+#include "platform/x11/desktop/X11PreferencesUi.h"
 #include "platform/x11/desktop/X11StatusBar.h"
 #include "platform/x11/keys/KeyAdapters.h"
 #include "platform/x11/keys/Keyboard.h"
@@ -28,6 +30,7 @@
 #include "platform/x11/settings/PlistUserDefaults.h"
 #include "platform/x11/windows/WindowAdapters.h"
 #include "support/StrutPanel.h"
+#include "support/SystemTray.h"
 #include "support/TemporaryDirectory.h"
 #include "support/TestDisplay.h"
 #include "support/TestWindow.h"
@@ -71,7 +74,10 @@ public:
 private:
     static xcb_window_t numberOf(const ContractWindow& window) { return static_cast<xcb_window_t>(window.id); }
 
+    x11::ToolkitHost toolkitHost();
     void waitForWindowManager();
+    bool isOwn(xcb_window_t window) const;
+    bool hasTrayIcon();
     std::vector<std::filesystem::path> resourceDirectories() const;
     std::unique_ptr<x11::PlistUserDefaults> openUserDefaults();
     std::unique_ptr<Updater> openUpdater();
@@ -99,12 +105,14 @@ private:
     x11::X11Alerts alerts;
     x11::X11LoginItem loginItem;
     std::unique_ptr<Updater> updater;
+    x11::ToolkitModule toolkit;
+    x11::X11PreferencesUi preferencesUi;
     X11SessionVerbs session;
 
     ContractKeyboard person;
     std::map<std::string, std::unique_ptr<ContractApplication>> applications;
     std::vector<std::unique_ptr<xtest::StrutPanel>> panels;
-    std::unique_ptr<ContractTray> tray;
+    std::optional<xtest::SystemTray> tray;
     xtest::TestWindow probe; // never shown
 };
 

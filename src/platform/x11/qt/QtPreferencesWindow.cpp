@@ -10,6 +10,8 @@
 #include <cmath>
 #include <utility>
 
+#include <xcb/xcb.h>
+
 #include "platform/x11/qt/FocusMarking.h"
 #include "platform/x11/qt/FormPane.h"
 #include "platform/x11/qt/GroupFrame.h"
@@ -108,19 +110,29 @@ QWidget* QtPreferencesWindow::createPane(const PreferencesTab& tab)
 
 void QtPreferencesWindow::closeEvent(QCloseEvent* event)
 {
-    callbacks.willClose();
+    if (isVisible()) {
+        callbacks.willClose();
+    }
     event->accept();
 }
 
 void QtPreferencesWindow::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        callbacks.didBecomeActive();
-    }
     if (event->type() == QEvent::FontChange) {
         fitTabs();
     }
     QWidget::changeEvent(event);
+}
+
+// Qt waits for a moment before it believes that a window has lost the keyboard, and misses who comes back within that.
+bool QtPreferencesWindow::nativeEvent(const QByteArray& eventType, void* message, qintptr* result)
+{
+    const auto& event = *static_cast<const xcb_focus_in_event_t*>(message);
+    const bool isByGrab = event.mode == XCB_NOTIFY_MODE_GRAB || event.mode == XCB_NOTIFY_MODE_UNGRAB;
+    if ((event.response_type & 0x7FU) == XCB_FOCUS_IN && !isByGrab && event.detail != XCB_NOTIFY_DETAIL_POINTER) {
+        callbacks.didBecomeActive();
+    }
+    return QWidget::nativeEvent(eventType, message, result);
 }
 
 // In the narrowest window every title is to be read in full, whatever the font.
