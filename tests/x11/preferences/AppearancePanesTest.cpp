@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QLineEdit>
 #include <QSlider>
 #include <QSpinBox>
@@ -18,11 +19,9 @@ struct Pane {
     std::string slider; // goes up to 10
     std::string key;    // of the slider
     double lowest = 0.0;
-    double standard = 0.0;
     std::string themesKey;
     std::string listTitle;
     bool canRename = true; // and deletes without asking
-    std::string resetTitle;
 };
 
 class AppearancePanes : public PreferencesTest, public testing::WithParamInterface<Pane> {
@@ -157,26 +156,6 @@ TEST_P(AppearancePanes, AThemeIsRenamedWhereThatIsOffered)
     });
 }
 
-TEST_P(AppearancePanes, ThePaneIsResetAfterAQuestion)
-{
-    inPane(pane().title, [&] {
-        moveSliderTo(XKB_KEY_End, 10.0);
-        person.click("Reset to Defaults");
-        person.waitForWindow(pane().resetTitle);
-        person.tap(XKB_KEY_Escape);
-        person.waitForWindow("Preferences");
-        EXPECT_EQ(stored(pane().key), PropertyValue{10.0});
-        person.click("Reset to Defaults");
-        person.waitForWindow(pane().resetTitle);
-        person.click("Reset to Defaults");
-        person.waitForWindow("Preferences");
-        waitUntilStored(pane().key, {pane().standard});
-        if (pane().key == "overlayBorderWidth") {
-            EXPECT_EQ(stored("overlayBackgroundColor"), PropertyValue{std::string("#88FFFF00")});
-        }
-    });
-}
-
 TEST_P(AppearancePanes, AnOpenPaneShowsWhatAnotherProgramStores)
 {
     inPane(pane().title, [&] {
@@ -194,32 +173,37 @@ INSTANTIATE_TEST_SUITE_P(Each, AppearancePanes,
                                               .slider = "Overlay, Border width",
                                               .key = "overlayBorderWidth",
                                               .lowest = 0.0,
-                                              .standard = 2.0,
                                               .themesKey = "savedThemes",
                                               .listTitle = "Themes",
-                                              .canRename = false,
-                                              .resetTitle = "Reset Layout appearance to defaults?"},
+                                              .canRename = false},
                                          Pane{.title = "Window Switcher Appearance",
                                               .slider = "Window Border, Border width",
                                               .key = "wsBorderWidth",
                                               .lowest = 0.0,
-                                              .standard = 3.0,
                                               .themesKey = "savedSwitcherThemes",
                                               .listTitle = "Window Switcher Themes",
-                                              .canRename = true,
-                                              .resetTitle = "Reset Window Switcher appearance to defaults?"},
+                                              .canRename = true},
                                          Pane{.title = "Move/Resize Appearance",
                                               .slider = "Selection Frame, Border width",
                                               .key = "mrSelectionBorderWidth",
                                               .lowest = 1.0,
-                                              .standard = 3.0,
                                               .themesKey = "savedMoveResizeThemes",
                                               .listTitle = "Move/Resize Themes",
-                                              .canRename = true,
-                                              .resetTitle = "Reset Move/Resize appearance to defaults?"}),
+                                              .canRename = true}),
                          [](const auto& each) { return each.param.themesKey; });
 
-class AppearanceControls : public PreferencesTest {};
+class AppearanceControls : public PreferencesTest {
+protected:
+    static constexpr auto grid = "Preview, Show grid";
+
+    void waitForGrid(bool isShown)
+    {
+        session.waitFor("the grid", [&] {
+            const auto* const toggle = qobject_cast<QAbstractButton*>(ShellPerson::control(grid));
+            return toggle != nullptr && toggle->isChecked() == isShown;
+        });
+    }
+};
 
 TEST_F(AppearanceControls, EachStoresWhatItShowsAtOnce)
 {
@@ -237,6 +221,45 @@ TEST_F(AppearanceControls, EachStoresWhatItShowsAtOnce)
         person.focus("Text, Label position");
         person.tap(XKB_KEY_Home);
         waitUntilStored("labelPosition", {std::string("topLeft")});
+    });
+}
+
+TEST_F(AppearanceControls, TheTogglesOfTheSwitcherStoreTheirStateButNotTheGridOfItsPreview)
+{
+    inPane("Window Switcher Appearance", [&] {
+        person.click("Label, Bold");
+        waitUntilStored("wsTextBold", {false});
+        person.click("Window Info, Show app name and window title");
+        waitUntilStored("showWindowInfo", {false});
+        person.focus("Window Info, Show app name and window title");
+        person.tap(XKB_KEY_space);
+        waitUntilStored("showWindowInfo", {true});
+        person.focus("Default Display Mode, When activating focus switcher");
+        person.tap(XKB_KEY_Down);
+        waitUntilStored("fsDefaultDisplayMode", {std::string("list")});
+
+        const auto before = allStored();
+        person.click(grid);
+        waitForGrid(true);
+        person.tap(XKB_KEY_w, {Modifier::control});
+        session.waitFor("the window to close", [] { return QApplication::activeWindow() == nullptr; });
+        person.openPreferences(*tray);
+        waitForGrid(false);
+        EXPECT_EQ(allStored(), before);
+    });
+}
+
+TEST_F(AppearanceControls, TheTogglesOfMovingAndResizingStoreTheirState)
+{
+    inPane("Move/Resize Appearance", [&] {
+        person.click("Selection Frame, Glow effect");
+        waitUntilStored("mrSelectionGlow", {false});
+        person.click("Snap Target Frame, Glow effect");
+        waitUntilStored("mrSnapTargetGlow", {false});
+        person.click("Behavior, Snap to neighbor windows");
+        waitUntilStored("mrSnapEnabled", {false});
+        person.click("Behavior, Snap to neighbor windows");
+        waitUntilStored("mrSnapEnabled", {true});
     });
 }
 
@@ -278,8 +301,6 @@ TEST_F(AppearanceControls, AStepperCountsByOneBetweenItsEnds)
         waitUntilStored("mrCornerRadius", whole(50));
         person.tap(XKB_KEY_Down);
         waitUntilStored("mrCornerRadius", whole(49));
-        person.click("Selection Frame, Glow effect");
-        waitUntilStored("mrSelectionGlow", {false});
     });
 }
 

@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/x11/settings/PlistUserDefaults.h"
+#include "platform/x11/settings/PropertyList.h"
 #include "support/Patience.h"
 #include "support/SystemTray.h"
 #include "support/TemporaryDirectory.h"
@@ -57,6 +58,18 @@ protected:
             .object(key);
     }
 
+    // All that the file holds.
+    PropertyDictionary allStored() const
+    {
+        PropertyDictionary settings;
+        if (const auto contents = SettingsFile(settingsFile()).read(); contents && *contents) {
+            for (const auto& [key, value] : PropertyList::parse((*contents)->bytes).value().entries()) {
+                settings[key] = value.value();
+            }
+        }
+        return settings;
+    }
+
     void waitUntilStored(std::string_view key, const PropertyValue& value)
     {
         try {
@@ -69,11 +82,15 @@ protected:
     }
 
     // Another program changes the settings file.
-    void changeFromOutside(std::string_view key, const PropertyValue& value) const
+    void changeFromOutside(const PropertyDictionary& settings) const
     {
-        PlistUserDefaults(SettingsFile(settingsFile()), [](std::string_view line) {
-            ADD_FAILURE() << line;
-        }).setObject(key, value);
+        PlistUserDefaults defaults(SettingsFile(settingsFile()), [](std::string_view line) { ADD_FAILURE() << line; });
+        EXPECT_TRUE(defaults.setObjects(settings));
+    }
+
+    void changeFromOutside(const std::string& key, const PropertyValue& value) const
+    {
+        changeFromOutside({{key, value}});
     }
 
     static PropertyValue whole(std::int64_t value) { return {value}; }

@@ -112,24 +112,29 @@ QListWidget* ShellPerson::list(const std::string& name)
     return qobject_cast<QListWidget*>(control(name));
 }
 
-void ShellPerson::openPreferences(xtest::SystemTray& tray)
+void ShellPerson::chooseFromTray(xtest::SystemTray& tray, const std::string& entry)
 {
     std::optional<xtest::PixelRect> icon;
     session.waitFor("the icon in the tray", [&] { return (icon = tray.iconOf(getpid())).has_value(); });
     display.keyboard.click(icon->x + icon->width / 2, icon->y + icon->height / 2);
-    const auto entry = waitForPlace("the menu's entry", []() -> std::optional<QPoint> {
+    const auto place = waitForPlace("the menu's entry", [&]() -> std::optional<QPoint> {
         const auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (menu == nullptr || !menu->windowHandle()->isExposed()) {
             return std::nullopt;
         }
         for (auto* const action : menu->actions()) {
-            if (action->text() == "Preferences...") {
+            if (action->text() == text(entry)) {
                 return menu->mapToGlobal(menu->actionGeometry(action).center());
             }
         }
         return std::nullopt;
     });
-    clickAt(entry);
+    clickAt(place);
+}
+
+void ShellPerson::openPreferences(xtest::SystemTray& tray)
+{
+    chooseFromTray(tray, "Preferences...");
     waitForWindow("Preferences");
 }
 

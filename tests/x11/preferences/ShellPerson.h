@@ -19,7 +19,7 @@ class ShellPerson {
 public:
     ShellPerson(ShellSession& session, xtest::TestDisplay& display) : session(session), display(display) {}
 
-    // By the tray's menu.
+    void chooseFromTray(xtest::SystemTray& tray, const std::string& entry);
     void openPreferences(xtest::SystemTray& tray);
 
     // By the title; a window with it must have the keyboard and stand still.

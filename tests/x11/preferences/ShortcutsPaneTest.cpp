@@ -138,25 +138,6 @@ TEST_F(ShortcutsPane, ClosingTheWindowEndsARecording)
     });
 }
 
-TEST_F(ShortcutsPane, ResettingAllAsksFirst)
-{
-    inPane("Shortcuts", [&] {
-        clearAnother();
-        person.click("Reset All Shortcuts");
-        person.waitForWindow("Reset all shortcuts to defaults?");
-        person.tap(XKB_KEY_Escape);
-        person.waitForWindow("Preferences");
-        EXPECT_EQ(stored("mrMinimizeKeyCode"), whole(0));
-        person.click("Reset All Shortcuts");
-        person.waitForWindow("Reset all shortcuts to defaults?");
-        person.click("Reset All Shortcuts");
-        person.waitForWindow("Preferences");
-        waitUntilStored("mrMinimizeKeyCode", whole(46));
-        EXPECT_EQ(stored("activateOverlayKeyCode"), whole(31));
-        EXPECT_FALSE(stored("mrResizeModifierFlags"));
-    });
-}
-
 TEST_F(ShortcutsPane, PickersStoreTheirChoiceAtOnce)
 {
     inPane("Shortcuts", [&] {

@@ -9,6 +9,7 @@
 #include <gio/gdesktopappinfo.h>
 #include <glib.h>
 
+#include "platform/x11/ConfigurationDirectory.h"
 #include "platform/x11/GlibHandles.h"
 
 namespace quorvel::x11 {
@@ -85,7 +86,7 @@ std::expected<void, std::string> save(const GlibKeyFile& keyFile, const fs::path
 
 AutostartPlaces AutostartPlaces::standard(fs::path program)
 {
-    AutostartPlaces places{fs::path(g_get_user_config_dir()) / "autostart", {}, std::move(program)};
+    AutostartPlaces places{configurationDirectory() / "autostart", {}, std::move(program)};
     for (const gchar* const* directory = g_get_system_config_dirs(); *directory != nullptr; ++directory) {
         places.systemDirectories.push_back(fs::path(*directory) / "autostart");
     }

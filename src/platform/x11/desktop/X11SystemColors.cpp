@@ -9,6 +9,7 @@
 
 #include <glib.h>
 
+#include "platform/x11/ConfigurationDirectory.h"
 #include "platform/x11/GlibHandles.h"
 
 namespace quorvel::x11 {
@@ -47,7 +48,7 @@ std::optional<Color> readAccent(const std::filesystem::path& path)
 
 std::filesystem::path X11SystemColors::plasmaSettingsFile()
 {
-    return std::filesystem::path(g_get_user_config_dir()) / "kdeglobals";
+    return configurationDirectory() / "kdeglobals";
 }
 
 Color X11SystemColors::accent() const

@@ -12,6 +12,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
+#include "platform/x11/ConfigurationDirectory.h"
 #include "platform/x11/FileDescriptor.h"
 
 namespace quorvel::x11 {
@@ -162,10 +163,7 @@ SettingsFile::SettingsFile(fs::path path) : link(std::move(path)) {}
 
 fs::path SettingsFile::defaultPath()
 {
-    const char* const configured = std::getenv("XDG_CONFIG_HOME");
-    const bool isUsable = configured != nullptr && fs::path(configured).is_absolute();
-    const fs::path base = isUsable ? fs::path(configured) : fs::path(g_get_home_dir()) / ".config";
-    return base / "quorvel" / "settings.plist";
+    return configurationDirectory() / "quorvel" / "settings.plist";
 }
 
 std::vector<fs::path> SettingsFile::chain() const
