@@ -42,7 +42,10 @@ BasicAppearancePane<Record>::BasicAppearancePane(const Platform& platform, const
                           changed.emit();
                       }}),
       listChanges(themesList.observe([this] { changed.emit(); })),
-      foreignChanges(platform.userDefaults.observeForeignChanges([this] { changed.emit(); }))
+      foreignChanges(platform.userDefaults.observeForeignChanges([this] {
+          store.follow();
+          changed.emit();
+      }))
 {}
 
 template <class Record>

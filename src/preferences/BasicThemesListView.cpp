@@ -57,7 +57,7 @@ BasicThemesListView<Record>::BasicThemesListView(BasicThemeStore<Record>& store,
     : store(store),
       dates(dates),
       actions(std::move(actions)),
-      storeChanges(store.observeThemes([this] { contentChanged.emit(); }))
+      storeChanges(store.observeThemes([this] { followStore(); }))
 {}
 
 template <class Record>
@@ -188,6 +188,17 @@ template <class Record>
 void BasicThemesListView<Record>::ask(Question question, const Record& theme)
 {
     pending = Pending{question, theme, theme.name};
+    contentChanged.emit();
+}
+
+// A question about a theme goes with the theme.
+template <class Record>
+void BasicThemesListView<Record>::followStore()
+{
+    const auto& themes = store.themes();
+    if (pending && std::ranges::find(themes, pending->theme.id, &Record::id) == themes.end()) {
+        pending.reset();
+    }
     contentChanged.emit();
 }
 

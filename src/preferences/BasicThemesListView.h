@@ -54,6 +54,7 @@ private:
     bool pressRow(std::string_view id);
     bool pressAlert(std::string_view id);
     void ask(Question question, const Record& theme);
+    void followStore();
     void answer();
 
     BasicThemeStore<Record>& store;

@@ -36,8 +36,9 @@ template <class Record>
 void BasicThemeStore<Record>::load()
 {
     std::vector<Record> loaded;
-    if (const auto data = settings.data(storageKey)) {
-        if (auto decoded = decodeThemes<Record>(textOf(*data))) {
+    lastDocument = settings.data(storageKey);
+    if (lastDocument) {
+        if (auto decoded = decodeThemes<Record>(textOf(*lastDocument))) {
             loaded = *std::move(decoded);
         } else {
             log.line(fmt::format("Failed to decode {}: {}", ThemeKind<Record>::plural, decoded.error()));
@@ -47,10 +48,19 @@ void BasicThemeStore<Record>::load()
 }
 
 template <class Record>
+void BasicThemeStore<Record>::follow()
+{
+    if (settings.data(storageKey) != lastDocument) {
+        load();
+    }
+}
+
+template <class Record>
 void BasicThemeStore<Record>::save()
 {
     if (const auto encoded = encodeThemes(published)) {
-        settings.setData(storageKey, dataOf(*encoded));
+        lastDocument = dataOf(*encoded);
+        settings.setData(storageKey, *lastDocument);
     } else {
         log.line(fmt::format("Failed to encode {}: {}", ThemeKind<Record>::plural, encoded.error()));
     }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/Signal.h"
+#include "platform/PropertyValue.h"
 #include "settings/MoveResizeTheme.h"
 #include "settings/Settings.h"
 #include "settings/SwitcherTheme.h"
@@ -33,6 +35,10 @@ public:
     // A stored document that cannot be read is logged and leaves no themes; it stays as it is until the next save.
     void load();
 
+    // Loads where another document is stored than the one that was loaded or saved last, as after an import. A document
+    // that cannot be read is so logged once only.
+    void follow();
+
     // Themes that cannot be written are logged; what is stored stays as it is.
     void save();
 
@@ -46,6 +52,7 @@ private:
 
     Settings settings;
     Log& log;
+    std::optional<PropertyData> lastDocument; // that was loaded or saved
     std::vector<Record> published;
     Signal<> themesChanged;
 };

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tests/unit/preferences/AppearancePaneFixture.h"
+#include "tests/unit/settings/ThemeFixture.h"
 
 namespace quorvel {
 namespace {
@@ -148,6 +149,15 @@ TEST_F(AppearancePreferencesViewTest, AChangeByAnotherProgramIsAnnounced)
     desktop.drain();
     EXPECT_EQ(changes, 1);
     EXPECT_FALSE(control<ToggleControl>("isTextBold").isOn);
+}
+
+TEST_F(AppearancePreferencesViewTest, ThemesThatAnotherProgramStoredAreKeptByTheNextSave)
+{
+    desktop.userDefaults.changeFromOutside("savedThemes", storedData(nightTheme));
+    desktop.drain();
+    EXPECT_EQ(savedNames(), (Lines{"Night"}));
+    saveTheme("A");
+    EXPECT_EQ(savedNames(), (Lines{"Night", "A"}));
 }
 
 TEST_F(AppearancePreferencesViewTest, TheNameIsAskedForInAnAlert)

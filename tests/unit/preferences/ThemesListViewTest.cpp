@@ -209,6 +209,17 @@ TEST_F(SwitcherThemesListViewTest, CancellingARenamingKeepsTheName)
     EXPECT_THAT(names(), ElementsAre("A"));
 }
 
+TEST_F(SwitcherThemesListViewTest, AQuestionGoesWithItsTheme)
+{
+    save("A");
+    ASSERT_TRUE(view.press(idOf(0, "Rename")));
+    store.add(store.themes().at(0));
+    EXPECT_TRUE(view.alert()) << "its theme is still there";
+    desktop.userDefaults.removeObject("savedSwitcherThemes");
+    store.follow();
+    EXPECT_FALSE(view.alert());
+}
+
 TEST_F(SwitcherThemesListViewTest, ClosingIsLeftToThePane)
 {
     const auto close = view.sheet().close;

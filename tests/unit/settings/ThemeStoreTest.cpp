@@ -196,6 +196,33 @@ TEST_F(ThemeStoreTest, DeletingTakesEveryThemeOfTheOtherKindsWithThatId)
     EXPECT_THAT(names(MoveResizeThemeStore(settings, log)), IsEmpty());
 }
 
+TEST_F(ThemeStoreTest, WhatAnotherProgramStoredIsFollowed)
+{
+    ThemeStore themes(settings, log);
+    themes.add(themeNamed<Theme>("A"));
+    int changes = 0;
+    const auto observation = themes.observeThemes([&] { ++changes; });
+    themes.follow();
+    EXPECT_EQ(changes, 0) << "its own save is no news";
+    store.setObject("savedThemes", storedData(nightTheme));
+    themes.follow();
+    EXPECT_THAT(names(themes), ElementsAre("Night"));
+    themes.follow();
+    EXPECT_EQ(changes, 1);
+    store.removeObject("savedThemes");
+    themes.follow();
+    EXPECT_THAT(names(themes), IsEmpty());
+}
+
+TEST_F(ThemeStoreTest, ABadDocumentOfAnotherProgramIsLoggedOnce)
+{
+    ThemeStore themes(settings, log);
+    store.setObject("savedThemes", storedData("[{}]"));
+    themes.follow();
+    themes.follow();
+    EXPECT_THAT(log.lines(), ElementsAre(StartsWith("Failed to decode themes: ")));
+}
+
 TEST_F(ThemeStoreTest, ObserversSeeTheThemesAsTheyAreNow)
 {
     ThemeStore themes(settings, log);
