@@ -23,6 +23,10 @@ debianPackages() {
         echo openbox metacity xfwm4 icewm fluxbox i3-wm kwin-x11 breeze
         echo picom xterm mousepad trayer adwaita-icon-theme
         ;;
+    macos)
+        echo clang-19 libclang-rt-19-dev libgnustep-gui-dev gnustep-back0.29-cairo libblocksruntime-dev
+        echo xvfb xauth fonts-dejavu-core
+        ;;
     bench)
         echo libbenchmark-dev xvfb openbox picom xterm rofi sxhkd wmctrl fonts-dejavu-core
         ;;

@@ -195,9 +195,4 @@ SimulatedWindow& SimulatedContractDesktop::find(const ContractWindow& window)
     return *windows.at(window.id);
 }
 
-std::unique_ptr<ContractDesktop> makeContractDesktop()
-{
-    return std::make_unique<SimulatedContractDesktop>();
-}
-
 } // namespace quorvel::contract

@@ -8,7 +8,8 @@
 
 namespace quorvel::contract {
 
-class SimulatedContractDesktop final : public ContractDesktop {
+// The desktop in memory with its own ports; those of another platform may stand over it.
+class SimulatedContractDesktop : public ContractDesktop {
 public:
     SimulatedContractDesktop();
     ~SimulatedContractDesktop() override;
@@ -40,10 +41,12 @@ public:
     UserDefaults& reopenedUserDefaults() override;
     void deny(Permission permission) override;
 
+protected:
+    SimulatedDesktop desktop;
+
 private:
     SimulatedWindow& find(const ContractWindow& window);
 
-    SimulatedDesktop desktop;
     SimulatedSessionVerbs session{desktop};
     std::map<std::string, SimulatedApplication*> applications;
     std::map<std::uint64_t, SimulatedWindow*> windows;

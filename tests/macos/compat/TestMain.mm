@@ -1,0 +1,59 @@
+#import <Foundation/Foundation.h>
+#include <gtest/gtest.h>
+
+#include "macos/compat/Blocks.h"
+#include "macos/fakes/FakeDesktop.h"
+
+namespace {
+
+using namespace quorvel::fakes;
+
+// Gives each test an autorelease pool, and fails one that leaves references behind, gives back too many or was
+// complained about.
+class Bookkeeper final : public testing::EmptyTestEventListener {
+public:
+    void OnTestStart(const testing::TestInfo&) override
+    {
+        pool = [[NSAutoreleasePool alloc] init];
+        before = ownedReferences();
+    }
+
+    void OnTestEnd(const testing::TestInfo&) override
+    {
+        [pool release];
+        EXPECT_EQ(ownedReferences() - before, 0) << "References to Core Foundation objects are out of balance";
+        for (const auto& mistake : takeComplaints()) {
+            ADD_FAILURE() << mistake;
+        }
+    }
+
+private:
+    NSAutoreleasePool* pool = nil;
+    long before = 0;
+};
+
+} // namespace
+
+// What GNUstep and the libraries below it keep for the life of the process. Objects of ours that leak pass through them
+// as well, so the bookkeeper counts those.
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libobjc.so\n"
+           "leak:libgnustep-base.so\n"
+           "leak:libgnustep-gui.so\n"
+           "leak:libgnustep-cairo\n"
+           "leak:libfontconfig.so\n";
+}
+
+extern "C" const char* __lsan_default_options()
+{
+    return "print_suppressions=0";
+}
+
+int main(int argumentCount, char** arguments)
+{
+    makeBlocksObjects();
+    testing::InitGoogleTest(&argumentCount, arguments);
+    testing::UnitTest::GetInstance()->listeners().Append(std::make_unique<Bookkeeper>().release());
+    return RUN_ALL_TESTS();
+}

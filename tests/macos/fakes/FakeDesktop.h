@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "platform/simulated/SimulatedDesktop.h"
+
+namespace quorvel::fakes {
+
+// The Mac behind the fakes of the system's functions. Its windows, applications and keys are those of a desktop in
+// memory, and its time is that desktop's; what only macOS has stands here. One at a time: the functions, which name no
+// desktop, act on the one that exists.
+class FakeDesktop {
+public:
+    explicit FakeDesktop(SimulatedDesktop& desktop);
+    FakeDesktop(const FakeDesktop&) = delete;
+    FakeDesktop& operator=(const FakeDesktop&) = delete;
+    ~FakeDesktop();
+
+    static FakeDesktop& current();
+
+    // Between the process of this program, as the system has it, and the one that it is on the desktop in memory.
+    static ProcessId onDesktop(int systemProcess);
+    static int onSystem(ProcessId process);
+
+    SimulatedDesktop& desktop;
+};
+
+// What a program did wrong: mistakes that the system bears in silence. A test that has some fails.
+void complain(std::string mistake);
+std::vector<std::string> takeComplaints();
+
+// References to Core Foundation objects that somebody has taken (Create, Copy, Retain) and not given back.
+long ownedReferences();
+void ownReferences(long change);
+
+} // namespace quorvel::fakes

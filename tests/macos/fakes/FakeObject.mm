@@ -1,0 +1,10 @@
+#include "macos/fakes/FakeObject.h"
+
+@implementation QuorvelFakeObject
+
+- (CFTypeID)typeId
+{
+    return 0;
+}
+
+@end

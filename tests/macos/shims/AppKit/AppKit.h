@@ -1,0 +1,10 @@
+#pragma once
+
+#include_next <AppKit/AppKit.h>
+#import <Foundation/Foundation.h>
+
+// GNUstep's headers define them again.
+#undef YES
+#undef NO
+#define YES __objc_yes
+#define NO __objc_no
