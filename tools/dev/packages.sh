@@ -18,7 +18,7 @@ debianPackages() {
         echo librsvg2-bin cmark-gfm
         ;;
     tests)
-        echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils x11-xserver-utils xkb-data dbus-daemon dbus
+        echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils x11-xserver-utils xkb-data dbus-daemon dbus openssl
         echo fonts-dejavu-core fonts-inter
         echo openbox metacity xfwm4 icewm fluxbox i3-wm kwin-x11 breeze
         echo picom xterm mousepad trayer adwaita-icon-theme

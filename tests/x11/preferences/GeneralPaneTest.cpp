@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "main/Version.h"
+#include "support/CertificateAuthority.h"
 #include "support/TestWindow.h"
 #include "support/WebServer.h"
 #include "x11/preferences/PreferencesTest.h"
@@ -14,6 +15,8 @@
 namespace quorvel::x11 {
 namespace {
 
+using testing::AllOf;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -57,18 +60,29 @@ protected:
 // The same with a feed of versions, the newest of which is older than this program.
 class GeneralPaneWithAFeed : public GeneralPane {
 protected:
-    void SetUp() override
+    static constexpr auto oldVersion = "<rss><channel><item><version>0.0.1</version></item></channel></rss>";
+
+    ~GeneralPaneWithAFeed() override
     {
-        GeneralPane::SetUp();
-        setenv(variable, feed.address().c_str(), 1);
+        unsetenv("QUORVEL_UPDATE_FEED");
+        unsetenv("SSL_CERT_FILE");
     }
 
-    void TearDown() override { unsetenv(variable); }
+    static void useFeed(const xtest::WebServer& server) { setenv("QUORVEL_UPDATE_FEED", server.address().c_str(), 1); }
 
-private:
-    static constexpr auto variable = "QUORVEL_UPDATE_FEED";
-
-    xtest::WebServer feed{"<rss><channel><item><version>0.0.1</version></item></channel></rss>"};
+    // Asks for updates; what the alert then says.
+    std::vector<std::string> answerToTheButton()
+    {
+        std::vector<std::string> answer;
+        inPane("General", [&] {
+            person.click(check);
+            person.waitForWindow("Quorvel");
+            answer = session.ask(textsInFront);
+            person.tap(XKB_KEY_Return);
+            person.waitForWindow("Preferences");
+        });
+        return answer;
+    }
 };
 
 TEST_F(GeneralPane, LaunchAtLoginWritesAnEntryOfTheSessionAndTakesItAway)
@@ -144,6 +158,8 @@ TEST_F(GeneralPane, WithoutAFeedNobodyCanBeAskedForUpdates)
 
 TEST_F(GeneralPaneWithAFeed, AutomaticChecksAreKeptBesideTheSettings)
 {
+    const xtest::WebServer feed(oldVersion);
+    useFeed(feed);
     inPane("General", [&] {
         const auto settings = allStored();
         waitUntilShown(automaticChecks, false);
@@ -158,13 +174,25 @@ TEST_F(GeneralPaneWithAFeed, AutomaticChecksAreKeptBesideTheSettings)
 
 TEST_F(GeneralPaneWithAFeed, TheButtonAsksForUpdatesAndTheAnswerIsTold)
 {
-    inPane("General", [&] {
-        person.click(check);
-        person.waitForWindow("Quorvel");
-        EXPECT_THAT(session.ask(textsInFront), testing::Contains(HasSubstr("up to date")));
-        person.tap(XKB_KEY_Return);
-        person.waitForWindow("Preferences");
-    });
+    const xtest::WebServer feed(oldVersion);
+    useFeed(feed);
+    EXPECT_THAT(answerToTheButton(), Contains(HasSubstr("Quorvel is up to date.")));
+}
+
+TEST_F(GeneralPaneWithAFeed, AFeedOverAnEncryptedConnectionIsReadIfItsServerProvesWhoItIs)
+{
+    if (!xtest::CertificateAuthority::isInstalled()) {
+        GTEST_SKIP() << "needs openssl";
+    }
+    const xtest::CertificateAuthority authority;
+    const xtest::WebServer feed(oldVersion, authority.identityOf("IP:127.0.0.1"));
+    useFeed(feed);
+    EXPECT_THAT(answerToTheButton(),
+                AllOf(Contains(HasSubstr("Quorvel could not check for updates.")),
+                      Contains("The reason: the server's certificate cannot be trusted: no authority that this system "
+                               "trusts vouches for it.")));
+    setenv("SSL_CERT_FILE", authority.certificate().c_str(), 1);
+    EXPECT_THAT(answerToTheButton(), Contains(HasSubstr("Quorvel is up to date.")));
 }
 
 TEST_F(GeneralPane, AboutTellsTheNameAndTheVersion)

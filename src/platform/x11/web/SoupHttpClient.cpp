@@ -26,6 +26,7 @@ struct Request {
     std::unique_ptr<SoupMessage, ObjectUnref> message;
     std::unique_ptr<GInputStream, ObjectUnref> stream;
     std::function<void(HttpClient::Answer)> completion;
+    std::string refusal; // why it is not even sent
     std::string document;
     std::array<char, 16384> block{};
 };
@@ -77,13 +78,38 @@ void readOn(std::unique_ptr<Request> request)
                               reading.cancellable.get(), onRead, request.release());
 }
 
+// The end of a sentence about a server that has not proved who it is.
+std::string distrust(GTlsCertificateFlags errors)
+{
+    constexpr std::pair<unsigned, const char*> reasons[] = {
+        {G_TLS_CERTIFICATE_REVOKED, "it has been revoked"},
+        {G_TLS_CERTIFICATE_UNKNOWN_CA, "no authority that this system trusts vouches for it"},
+        {G_TLS_CERTIFICATE_BAD_IDENTITY, "it belongs to another server"},
+        {G_TLS_CERTIFICATE_EXPIRED, "it has expired"},
+        {G_TLS_CERTIFICATE_NOT_ACTIVATED, "it is not valid yet"},
+    };
+    for (const auto& [error, reason] : reasons) {
+        if ((errors & error) != 0) {
+            return fmt::format("the server's certificate cannot be trusted: {}", reason);
+        }
+    }
+    return "the server's certificate cannot be trusted";
+}
+
+std::string reasonOf(const GError& error, SoupMessage& message)
+{
+    return g_error_matches(&error, G_TLS_ERROR, G_TLS_ERROR_BAD_CERTIFICATE) != FALSE
+               ? distrust(soup_message_get_tls_peer_certificate_errors(&message))
+               : error.message;
+}
+
 void onSent(GObject* source, GAsyncResult* result, gpointer data)
 {
     auto request = owned(data);
     GError* problem = nullptr;
     request->stream.reset(soup_session_send_finish(SOUP_SESSION(source), result, &problem));
     if (const GlibError error{problem}) {
-        finish(*request, std::unexpected(std::string(error->message)));
+        finish(*request, std::unexpected(reasonOf(*error, *request->message)));
         return;
     }
     const auto status = soup_message_get_status(request->message.get());
@@ -95,31 +121,47 @@ void onSent(GObject* source, GAsyncResult* result, gpointer data)
     readOn(std::move(request));
 }
 
-gboolean onMalformedAddress(gpointer data)
+gboolean onRefused(gpointer data)
 {
     const auto request = owned(data);
-    finish(*request, std::unexpected(std::string("its address is malformed")));
+    finish(*request, std::unexpected(request->refusal));
     return G_SOURCE_REMOVE;
 }
 
 } // namespace
 
-SoupHttpClient::SoupHttpClient()
+SoupHttpClient::SoupHttpClient(const std::filesystem::path& authorities)
     : session(soup_session_new_with_options("timeout", silence, "user-agent", "Quorvel", nullptr))
-{}
+{
+    if (!authorities.empty()) {
+        trustOnly(authorities);
+    }
+}
+
+void SoupHttpClient::trustOnly(const std::filesystem::path& authorities)
+{
+    GError* failure = nullptr;
+    const std::unique_ptr<GTlsDatabase, ObjectUnref> database(g_tls_file_database_new(authorities.c_str(), &failure));
+    if (const GlibError error{failure}) {
+        problem = fmt::format("the certificate authorities cannot be read: {}", error->message);
+        return;
+    }
+    soup_session_set_tls_database(session.get(), database.get());
+}
 
 Subscription SoupHttpClient::get(const std::string& address, std::function<void(Answer)> completion)
 {
     auto request = std::make_unique<Request>();
     request->completion = std::move(completion);
     request->message.reset(soup_message_new(SOUP_METHOD_GET, address.c_str()));
+    request->refusal = request->message ? problem : "its address is malformed";
     auto* const cancellable = G_CANCELLABLE(g_object_ref(request->cancellable.get()));
     Subscription subscription([cancellable] {
         g_cancellable_cancel(cancellable);
         g_object_unref(cancellable);
     });
-    if (!request->message) {
-        g_idle_add(onMalformedAddress, request.release());
+    if (!request->refusal.empty()) {
+        g_idle_add(onRefused, request.release());
         return subscription;
     }
     SoupMessage* const message = request->message.get();

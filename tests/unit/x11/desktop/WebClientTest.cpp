@@ -1,5 +1,7 @@
 #include "platform/x11/desktop/WebClient.h"
 
+#include <cstdlib>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,6 +11,8 @@
 #include <libsoup/soup.h>
 
 #include "platform/x11/GlibMainLoop.h"
+#include "support/CertificateAuthority.h"
+#include "support/WebServer.h"
 
 namespace quorvel::x11 {
 namespace {
@@ -60,6 +64,18 @@ private:
     std::unique_ptr<SoupServer, Unref> server;
 };
 
+// The authorities that programs which start to talk to the web trust for as long as this lives.
+class Trust {
+public:
+    explicit Trust(const std::filesystem::path& authorities) { setenv(variable, authorities.c_str(), 1); }
+    Trust(const Trust&) = delete;
+    Trust& operator=(const Trust&) = delete;
+    ~Trust() { unsetenv(variable); }
+
+private:
+    static constexpr auto variable = "SSL_CERT_FILE";
+};
+
 class WebClientTest : public testing::Test {
 protected:
     HttpClient::Answer answerTo(const std::string& address)
@@ -108,6 +124,43 @@ TEST_F(WebClientTest, AFailureIsToldWithItsReason)
     EXPECT_NE(answerTo("http://127.0.0.1:1/").error(), "");
     EXPECT_NE(answerTo("https://127.0.0.1:1/").error(), "");
     EXPECT_THAT(answerTo("not an address").error(), HasSubstr("malformed"));
+}
+
+TEST_F(WebClientTest, ServersMustProveWhoTheyAre)
+{
+    if (!xtest::CertificateAuthority::isInstalled()) {
+        GTEST_SKIP() << "needs openssl";
+    }
+    const xtest::CertificateAuthority authority;
+    const xtest::CertificateAuthority stranger;
+    const Trust trust(authority.certificate());
+    const auto answerOf = [&](const xtest::ServerIdentity& identity) {
+        return answerTo(xtest::WebServer("secret", identity).address());
+    };
+    constexpr auto address = "IP:127.0.0.1";
+    EXPECT_EQ(answerOf(authority.identityOf(address)), "secret");
+    EXPECT_EQ(answerOf(stranger.identityOf(address)).error(),
+              "the server's certificate cannot be trusted: no authority that this system trusts vouches for it");
+    EXPECT_EQ(answerOf(authority.identityOf("DNS:example.org")).error(),
+              "the server's certificate cannot be trusted: it belongs to another server");
+    EXPECT_EQ(answerOf(authority.identityOf(address, xtest::Validity::past)).error(),
+              "the server's certificate cannot be trusted: it has expired");
+}
+
+TEST_F(WebClientTest, TheSystemsAuthoritiesDoNotVouchForAStranger)
+{
+    if (!xtest::CertificateAuthority::isInstalled()) {
+        GTEST_SKIP() << "needs openssl";
+    }
+    const xtest::CertificateAuthority stranger;
+    const xtest::WebServer server("secret", stranger.identityOf("IP:127.0.0.1"));
+    EXPECT_THAT(answerTo(server.address()).error(), HasSubstr("certificate cannot be trusted"));
+}
+
+TEST_F(WebClientTest, WithoutTheAuthoritiesThatWereAskedForNobodyIsTrusted)
+{
+    const Trust trust("/nowhere/authorities.pem");
+    EXPECT_THAT(answerTo(server.address("/feed")).error(), HasSubstr("certificate authorities cannot be read"));
 }
 
 TEST_F(WebClientTest, ARequestThatNobodyAwaitsAnyMoreIsSilent)
