@@ -86,7 +86,8 @@ public:
 // person sees it, frame included and invisible shadow excluded, in accessibility coordinates.
 //
 // Attributes, by element:
-//   application   "AXFocusedWindow" (element), "AXWindows" (elements)
+//   application   "AXFocusedWindow" (element), "AXWindows" (elements: first those on screen, front to back, so that of
+//                 windows in one place the one that can be seen comes first; minimized ones last)
 //   window        "AXRole" (text; "AXWindow" for what a person calls a window), "AXTitle" (text), "AXPosition" (point,
 //                 settable), "AXSize" (size, settable), "AXMinimized" (Boolean, settable); action "AXRaise";
 //                 notifications "AXMoved", "AXResized", "AXUIElementDestroyed"

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "contract/AccessibilityTest.h"
+#include "platform/Workspace.h"
 
 namespace quorvel::contract {
 namespace {
@@ -13,6 +14,17 @@ protected:
     bool vanishes(const AxElementRef& element)
     {
         return desktop->waitUntil([&] { return !read(element, axNames::position).has_value(); });
+    }
+
+    // Those of the process's windows, in the order in which they are listed.
+    std::vector<std::string> titlesOf(ProcessId process)
+    {
+        std::vector<std::string> result;
+        const auto windows = read(accessibility.applicationElement(process), axNames::windows);
+        for (const auto& each : std::get<std::vector<AxElementRef>>(windows.value())) {
+            result.push_back(std::get<std::string>(read(each, axNames::title).value_or(AxValue(std::string()))));
+        }
+        return result;
     }
 };
 
@@ -32,17 +44,12 @@ TEST_F(AccessibilityContract, AnApplicationListsAllItsWindowsAndNoOthers)
     const auto notes = desktop->openWindow("Editor", "Notes", somewhere);
     desktop->openWindow("Browser", "News", {50.0, 50.0, 300.0, 300.0});
     desktop->openWindow("Editor", "Letter", {200.0, 200.0, 450.0, 350.0});
-    const auto titles = [&] {
-        std::vector<std::string> result;
-        const auto windows = read(accessibility.applicationElement(notes.process), axNames::windows);
-        for (const auto& each : std::get<std::vector<AxElementRef>>(windows.value())) {
-            result.push_back(std::get<std::string>(read(each, axNames::title).value_or(AxValue(std::string()))));
-        }
-        std::ranges::sort(result);
-        return result;
-    };
 
-    EXPECT_TRUE(desktop->waitUntil([&] { return titles() == std::vector<std::string>{"Letter", "Notes"}; }));
+    EXPECT_TRUE(desktop->waitUntil([&] {
+        auto titles = titlesOf(notes.process);
+        std::ranges::sort(titles);
+        return titles == std::vector<std::string>{"Letter", "Notes"};
+    }));
 }
 
 TEST_F(AccessibilityContract, MinimizedWindowsStayInTheListOfTheirApplication)
@@ -57,6 +64,22 @@ TEST_F(AccessibilityContract, MinimizedWindowsStayInTheListOfTheirApplication)
     ASSERT_TRUE(windows.has_value());
     ASSERT_EQ(std::get<std::vector<AxElementRef>>(*windows).size(), 1U);
     EXPECT_TRUE(std::get<std::vector<AxElementRef>>(*windows)[0]->isEqual(*element));
+}
+
+TEST_F(AccessibilityContract, WindowsOnScreenAreListedFrontToBackAndMinimizedOnesAfterThem)
+{
+    const auto back = desktop->openWindow("Editor", "Back", somewhere);
+    desktop->openWindow("Editor", "Front", somewhere);
+    const auto minimized = desktop->openWindow("Editor", "Minimized", somewhere);
+    const auto element = elementOf(minimized);
+    desktop->minimizeWindow(minimized);
+    ASSERT_TRUE(desktop->waitUntil([&] { return read(element, axNames::minimized) == AxValue(true); }));
+
+    EXPECT_TRUE(desktop->waitUntil(
+        [&] { return titlesOf(back.process) == std::vector<std::string>{"Front", "Back", "Minimized"}; }));
+    desktop->focusWindow(back);
+    EXPECT_TRUE(desktop->waitUntil(
+        [&] { return titlesOf(back.process) == std::vector<std::string>{"Back", "Front", "Minimized"}; }));
 }
 
 TEST_F(AccessibilityContract, TwoNamesOfOneWindowAreEqualAndThoseOfTwoWindowsAreNot)
@@ -178,8 +201,9 @@ TEST_F(AccessibilityContract, ARaisedWindowBecomesTheFocusedOneOfItsApplicationO
     ASSERT_FALSE(elementOf(letter)->isEqual(*element));
 
     ASSERT_TRUE(accessibility.performAction(element, axNames::raise).has_value());
-    desktop->focusWindow(notes);
+    port(&ContractPorts::workspace).activate(notes.process);
 
+    EXPECT_TRUE(desktop->waitUntil([&] { return desktop->isFocused(notes); }));
     EXPECT_TRUE(elementOf(notes)->isEqual(*element));
 }
 

@@ -37,6 +37,40 @@ protected:
 
     bool isMinimized(xcb_window_t window) { return display.client.hasState(window, "_NET_WM_STATE_HIDDEN"); }
 
+    std::unique_ptr<xtest::TestWindow> openMaximized(const std::string& title)
+    {
+        auto window = openWindow();
+        window->setTitle(title);
+        window->setState("_NET_WM_STATE_MAXIMIZED_VERT", true);
+        window->setState("_NET_WM_STATE_MAXIMIZED_HORZ", true);
+        display.client.waitFor("a window to be maximized",
+                               [&] { return display.client.outerRect(window->id()) == screen; });
+        return window;
+    }
+
+    static constexpr std::uint32_t firstDesktop = 0;
+    static constexpr std::uint32_t otherDesktop = 1;
+
+    std::uint32_t currentDesktop()
+    {
+        return display.client.property(display.client.root(), "_NET_CURRENT_DESKTOP").front();
+    }
+
+    void show(std::uint32_t desktop)
+    {
+        display.client.sendToWindowManager(display.client.root(), "_NET_CURRENT_DESKTOP", {desktop, 0, 0, 0, 0});
+        display.client.waitFor("a desktop to be shown", [&] { return currentDesktop() == desktop; });
+    }
+
+    void moveToOtherDesktop(const xtest::TestWindow& window)
+    {
+        display.client.sendToWindowManager(window.id(), "_NET_WM_DESKTOP", {otherDesktop, 2, 0, 0, 0});
+        display.client.waitFor("the window to move to another desktop", [&] {
+            const auto desktop = display.client.property(window.id(), "_NET_WM_DESKTOP");
+            return !desktop.empty() && desktop.front() == otherDesktop;
+        });
+    }
+
     bool isInFront(xcb_window_t window)
     {
         const auto topLevels = display.client.children(display.client.root());
@@ -179,16 +213,34 @@ TEST_F(FocusSwitcher, AWindowOfAnotherDesktopIsNotLabelledButAMinimizedOneIsShow
     const auto minimized = openWindow();
     const auto visible = openWindow({900, 300, 400, 300});
     minimize(*minimized);
-    constexpr std::uint32_t otherDesktop = 1;
-    display.client.sendToWindowManager(minimized->id(), "_NET_WM_DESKTOP", {otherDesktop, 2, 0, 0, 0});
-    display.client.waitFor("the window to move to another desktop", [&] {
-        const auto desktop = display.client.property(minimized->id(), "_NET_WM_DESKTOP");
-        return !desktop.empty() && desktop.front() == otherDesktop;
-    });
+    moveToOtherDesktop(*minimized);
     showSwitcher(1);
     display.keyboard.tap(XKB_KEY_b);
     waitUntilActive(minimized->id());
-    EXPECT_EQ(display.client.property(display.client.root(), "_NET_CURRENT_DESKTOP").front(), otherDesktop);
+    EXPECT_EQ(currentDesktop(), otherDesktop);
+    endCleanly();
+}
+
+// All in one place and of one program; those that cannot be seen are in front of the one that can.
+TEST_F(FocusSwitcher, OfMaximizedWindowsTheOneOnScreenIsChosen)
+{
+    start();
+    const auto onScreen = openMaximized("On screen");
+    const auto minimized = openMaximized("Minimized");
+    const auto elsewhere = openMaximized("Elsewhere");
+    moveToOtherDesktop(*elsewhere);
+    minimize(*minimized);
+    show(otherDesktop);
+    display.client.activate(elsewhere->id());
+    show(firstDesktop);
+    display.client.waitFor("the window on screen", [&] { return display.client.isViewable(onScreen->id()); });
+    const auto other = openWindow({400, 400, 300, 200});
+    showSwitcher(2);
+    display.keyboard.tap(XKB_KEY_b); // A is the small one
+    quorvel->program().waitForLine("🔍 Focus Switcher: Label B → Window - On screen");
+    waitUntilActive(onScreen->id());
+    EXPECT_EQ(currentDesktop(), firstDesktop);
+    EXPECT_TRUE(isMinimized(minimized->id()));
     endCleanly();
 }
 

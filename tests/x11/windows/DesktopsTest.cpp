@@ -1,7 +1,10 @@
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "support/TestWindow.h"
 #include "x11/windows/AdapterDisplay.h"
@@ -35,6 +38,12 @@ protected:
     }
 
     xtest::XClient& client() { return desktop->client(); }
+
+    void show(std::uint32_t number)
+    {
+        client().sendToWindowManager(client().root(), "_NET_CURRENT_DESKTOP", {number, 0, 0, 0, 0});
+        desktop->waitFor("a desktop", [&] { return first(client().root(), "_NET_CURRENT_DESKTOP") == number; });
+    }
 
     std::optional<std::uint32_t> first(xcb_window_t window, const std::string& property)
     {
@@ -78,6 +87,33 @@ TEST_P(Desktops, AWindowOfAnotherIsNotTakenForAMinimizedOne)
     EXPECT_TRUE(minimized->isHidden);
     EXPECT_FALSE(minimized->isWithdrawn());
     EXPECT_TRUE(desktop->adapters.windows.isOnCurrentDesktop(*minimized));
+}
+
+// Window managers do not raise the window that gets the keyboard because its desktop is shown again.
+TEST_P(Desktops, AWindowOfAnotherIsListedAfterThoseOnScreenEvenIfItIsInFrontOfThem)
+{
+    TestWindow minimized(desktop->display.server, {.title = "Minimized"});
+    minimized.map();
+    client().activate(minimized.id());
+    minimized.iconify();
+    desktop->waitFor("a minimized window", [&] { return client().hasState(minimized.id(), "_NET_WM_STATE_HIDDEN"); });
+    show(1);
+    client().activate(away->id());
+    show(0);
+    desktop->waitFor("the window of the first desktop", [&] { return client().isViewable(here->id()); });
+
+    const auto titles = [&] {
+        std::vector<std::string> result;
+        auto& accessibility = desktop->adapters.accessibility;
+        const auto application = accessibility.applicationElement(getpid());
+        const auto windows = accessibility.copyAttribute(application, axNames::windows);
+        for (const auto& each : std::get<std::vector<AxElementRef>>(windows.value())) {
+            result.push_back(std::get<std::string>(accessibility.copyAttribute(each, axNames::title).value()));
+        }
+        return result;
+    };
+    desktop->waitFor("the window on screen before that of the other desktop, and the minimized one last",
+                     [&] { return titles() == std::vector<std::string>{"Here", "Away", "Minimized"}; });
 }
 
 INSTANTIATE_TEST_SUITE_P(On, Desktops, testing::Values(Manager::openbox, Manager::metacity, Manager::fluxbox),

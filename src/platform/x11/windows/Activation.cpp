@@ -1,5 +1,7 @@
 #include "platform/x11/windows/Activation.h"
 
+#include <algorithm>
+
 #include "platform/x11/Connection.h"
 #include "platform/x11/windows/ClientWindows.h"
 #include "platform/x11/windows/WindowManager.h"
@@ -53,21 +55,12 @@ xcb_window_t Activation::frontWindow(ProcessId process)
     if (const auto* const raised = windows.find(lastRaised); raised != nullptr && raised->identity.process == process) {
         return lastRaised;
     }
-    // The best is one that can be seen, then one of another desktop, then a minimized one; of equals the frontmost.
-    xcb_window_t best = XCB_NONE;
-    int bestRank = 0;
-    for (const auto window : windows.frontToBack(process)) {
+    const auto own = windows.windowsOf(process);
+    const auto front = std::ranges::find_if(own, [this](xcb_window_t window) {
         const auto* const snapshot = windows.find(window);
-        if (snapshot == nullptr || !isForPeople(*snapshot)) {
-            continue;
-        }
-        const int rank = snapshot->isHidden ? 1 : windows.isOnCurrentDesktop(*snapshot) ? 3 : 2;
-        if (rank > bestRank) {
-            bestRank = rank;
-            best = window;
-        }
-    }
-    return best;
+        return snapshot != nullptr && isForPeople(*snapshot);
+    });
+    return front != own.end() ? *front : XCB_NONE;
 }
 
 } // namespace quorvel::x11

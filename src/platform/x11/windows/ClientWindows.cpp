@@ -70,11 +70,11 @@ std::vector<xcb_window_t> ClientWindows::frontToBack()
     return *order;
 }
 
-std::vector<xcb_window_t> ClientWindows::frontToBack(ProcessId process)
+std::vector<xcb_window_t> ClientWindows::windowsOf(ProcessId process)
 {
     readOrder();
-    const auto windows = orderByProcess.find(process);
-    return windows != orderByProcess.end() ? windows->second : std::vector<xcb_window_t>();
+    const auto windows = windowsByProcess.find(process);
+    return windows != windowsByProcess.end() ? windows->second : std::vector<xcb_window_t>();
 }
 
 // The window manager's own list may lag behind what is on the screen; the order of the frames never does.
@@ -107,7 +107,13 @@ void ClientWindows::readOrder()
     order.emplace();
     for (const auto& [height, window] : std::views::reverse(ranked)) {
         order->push_back(window);
-        orderByProcess[snapshots[window]->identity.process].push_back(window);
+    }
+    for (const auto presence : {WindowPresence::onScreen, WindowPresence::elsewhere, WindowPresence::minimized}) {
+        for (const auto window : *order) {
+            if (const auto& snapshot = *snapshots[window]; presenceOf(snapshot) == presence) {
+                windowsByProcess[snapshot.identity.process].push_back(window);
+            }
+        }
     }
 }
 
@@ -121,13 +127,22 @@ bool ClientWindows::isOnCurrentDesktop(const WindowSnapshot& window)
     return window.desktop == allDesktops || window.desktop == rootProperties.currentDesktop.value();
 }
 
+WindowPresence ClientWindows::presenceOf(const WindowSnapshot& window)
+{
+    if (window.isHidden) {
+        return WindowPresence::minimized;
+    }
+    const bool isOnScreen = window.mapState == XCB_MAP_STATE_VIEWABLE && isOnCurrentDesktop(window);
+    return isOnScreen ? WindowPresence::onScreen : WindowPresence::elsewhere;
+}
+
 void ClientWindows::beginTurn()
 {
     if (turn != connection.turn()) {
         turn = connection.turn();
         std::erase_if(snapshots, [this](const auto& entry) { return !isKnown(entry.first, entry.second); });
         order.reset();
-        orderByProcess.clear();
+        windowsByProcess.clear();
     }
 }
 

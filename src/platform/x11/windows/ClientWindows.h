@@ -34,13 +34,15 @@ public:
     // All that have not vanished, front to back.
     std::vector<xcb_window_t> frontToBack();
 
-    // Those of one process, front to back.
-    std::vector<xcb_window_t> frontToBack(ProcessId process);
+    // Those of one process: the ones on screen, then those of other desktops, then the minimized ones, each front to
+    // back. Of windows in one place that which a person sees comes first.
+    std::vector<xcb_window_t> windowsOf(ProcessId process);
 
     // The window with the keyboard focus, as of the last event that was handled; or XCB_NONE.
     xcb_window_t activeWindow();
 
     bool isOnCurrentDesktop(const WindowSnapshot& window);
+    WindowPresence presenceOf(const WindowSnapshot& window);
 
 private:
     struct Followed {
@@ -62,7 +64,7 @@ private:
     std::unordered_map<xcb_window_t, std::optional<WindowSnapshot>> snapshots;
     std::unordered_map<xcb_window_t, Followed> followed;
     std::optional<std::vector<xcb_window_t>> order;
-    std::unordered_map<ProcessId, std::vector<xcb_window_t>> orderByProcess; // filled with `order`
+    std::unordered_map<ProcessId, std::vector<xcb_window_t>> windowsByProcess; // filled with `order`
     std::uint64_t turn = 0;
     std::vector<Subscription> windowChanges;
     WeakGuard weakGuard;

@@ -16,6 +16,13 @@ inline constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
 // What a window is to a person, after its _NET_WM_WINDOW_TYPE.
 enum class WindowKind { normal, dialog, utility, dock, desktop, other };
 
+// How near to a person a window is.
+enum class WindowPresence {
+    onScreen,
+    elsewhere, // on another desktop, or behind a tab
+    minimized,
+};
+
 // What never changes while a window lives.
 struct WindowIdentity {
     // The process at the other end of the window's connection or, where the server does not know it, the one that the

@@ -132,7 +132,7 @@ std::expected<AxValue, AxError> X11Accessibility::readApplication(ProcessId proc
         if (snapshot != nullptr && snapshot->identity.process == process) {
             return std::make_shared<X11AxElement>(process, active);
         }
-        const auto own = windows.frontToBack(process);
+        const auto own = windows.windowsOf(process);
         if (own.empty()) {
             return std::unexpected(axErrors::noValue);
         }
@@ -140,7 +140,7 @@ std::expected<AxValue, AxError> X11Accessibility::readApplication(ProcessId proc
     }
     if (name == axNames::windows) {
         std::vector<AxElementRef> elements;
-        for (const auto window : windows.frontToBack(process)) {
+        for (const auto window : windows.windowsOf(process)) {
             elements.push_back(std::make_shared<X11AxElement>(process, window));
         }
         return elements;

@@ -32,8 +32,8 @@ std::vector<WindowListEntry> X11WindowList::onScreenWindows()
     std::vector<WindowListEntry> entries;
     for (const auto window : windows.frontToBack()) {
         const auto* const snapshot = windows.find(window);
-        if (snapshot == nullptr || snapshot->mapState != XCB_MAP_STATE_VIEWABLE || snapshot->isHidden ||
-            snapshot->identity.kind == WindowKind::desktop || !windows.isOnCurrentDesktop(*snapshot)) {
+        if (snapshot == nullptr || snapshot->identity.kind == WindowKind::desktop ||
+            windows.presenceOf(*snapshot) != WindowPresence::onScreen) {
             continue;
         }
         entries.push_back({snapshot->identity.process, layerOf(snapshot->identity.kind),

@@ -66,7 +66,7 @@ std::optional<RunningApplication> X11Workspace::frontmostApplication()
 
 std::optional<RunningApplication> X11Workspace::runningApplication(ProcessId process)
 {
-    const auto applications = describeAll(windows.frontToBack(process));
+    const auto applications = describeAll(windows.windowsOf(process));
     const auto found = std::ranges::find(applications, process, &RunningApplication::process);
     return found != applications.end() ? std::optional(*found) : std::nullopt;
 }
