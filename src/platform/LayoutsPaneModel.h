@@ -43,7 +43,8 @@ struct AvailableLayoutRow {
 
 struct SelectedLayoutRow {
     LayoutCell cell;
-    std::string digit; // what its digit field shows; may be empty
+    std::string digit;               // what its digit field shows; may be empty
+    std::string digitAccessibleName; // of the field, for screen readers
     double height = 0.0;
 
     bool operator==(const SelectedLayoutRow&) const = default;
@@ -63,7 +64,8 @@ struct LayoutsPaneContent {
     PaneButton add;    // between the tables; its accessible name is its tooltip, too
     PaneButton remove; // under it
     std::string digitToolTip;
-    std::string tip; // under the tables
+    std::string orderingToolTip; // of the selected rows
+    std::string tip;             // under the tables
 
     bool operator==(const LayoutsPaneContent&) const = default;
 };
@@ -103,6 +105,11 @@ public:
     enum class DragSource { selectedTable, elsewhere };
     virtual bool acceptsDrop(DragSource source) const = 0;
     virtual bool drop(DragSource source, const std::vector<std::string>& items, std::size_t beforeRow) = 0;
+
+    // The same by keyboard: the selected rows of the selected table go as one block before the row above them or behind
+    // the one below them.
+    enum class RowMove { up, down };
+    virtual void moveSelected(RowMove move) = 0;
 };
 
 } // namespace quorvel

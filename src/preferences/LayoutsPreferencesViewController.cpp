@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <iterator>
+#include <numeric>
 #include <optional>
 #include <ranges>
 #include <utility>
@@ -126,13 +127,17 @@ LayoutsPaneContent LayoutsPreferencesViewController::content() const
         .add = arrowButton(addID, "arrow.right", "Add to Selected", !layoutsToAdd().empty()),
         .remove = arrowButton(removeID, "arrow.left", "Remove from Selected", !selectedSelection.empty()),
         .digitToolTip = "Assign a digit (1–9). Press it while the layout overlay is visible to jump straight here.",
+        .orderingToolTip = "Drag rows, or press Alt+Up or Alt+Down, to change the order.",
         .tip = "Tip: type a digit (1–9) next to a layout to jump straight to it while the overlay is open.",
     };
     for (const auto& row : availableRows) {
         content.available.push_back(shownRow(row));
     }
     for (const auto& layout : selected) {
-        content.selected.push_back({.cell = cell(layout), .digit = digits.digitOf(layout.id), .height = layoutHeight});
+        content.selected.push_back({.cell = cell(layout),
+                                    .digit = digits.digitOf(layout.id),
+                                    .digitAccessibleName = fmt::format("Digit of “{}”", layout.name),
+                                    .height = layoutHeight});
     }
     return content;
 }
@@ -280,13 +285,6 @@ std::string LayoutsPreferencesViewController::dragItem(std::size_t selectedRow) 
     return std::to_string(selectedRow);
 }
 
-// The rows come out first, which moves the place of the drop up by those that stood above it:
-//
-//   ▸ A          B
-//     B          D
-//   ▸ C     →    ▸ A
-//     D          ▸ C
-//   ──── 4       E
 bool LayoutsPreferencesViewController::drop(DragSource source, const std::vector<std::string>& items,
                                             std::size_t beforeRow)
 {
@@ -300,6 +298,33 @@ bool LayoutsPreferencesViewController::drop(DragSource source, const std::vector
     if (!acceptsDrop(source) || rows.empty()) {
         return false;
     }
+    moveBlock(rows, beforeRow);
+    return true;
+}
+
+void LayoutsPreferencesViewController::moveSelected(RowMove move)
+{
+    if (selectedSelection.empty()) {
+        return;
+    }
+    const auto first = selectedSelection.front();
+    const auto behindLast = selectedSelection.back() + 1;
+    const bool isBlock = behindLast - first == selectedSelection.size();
+    if (isBlock && (move == RowMove::up ? first == 0 : behindLast == selected.size())) {
+        return;
+    }
+    moveBlock(selectedSelection, move == RowMove::up ? std::max<std::size_t>(first, 1) - 1 : behindLast + 1);
+}
+
+// The rows come out first, which moves the place of the drop up by those that stood above it:
+//
+//   ▸ A          B
+//     B          D
+//   ▸ C     →    ▸ A
+//     D          ▸ C
+//   ──── 4       E
+void LayoutsPreferencesViewController::moveBlock(const TableSelection& rows, std::size_t beforeRow)
+{
     std::vector<LayoutSummary> block;
     std::vector<LayoutSummary> rest;
     for (std::size_t row = 0; row < selected.size(); ++row) {
@@ -310,13 +335,11 @@ bool LayoutsPreferencesViewController::drop(DragSource source, const std::vector
     const auto first = place - static_cast<std::size_t>(movedAbove);
     rest.insert(rest.begin() + static_cast<std::ptrdiff_t>(first), block.begin(), block.end());
     selected = std::move(rest);
-    selectedSelection.clear();
-    for (std::size_t offset = 0; offset < block.size(); ++offset) {
-        selectedSelection.push_back(first + offset);
-    }
+    TableSelection moved(block.size());
+    std::iota(moved.begin(), moved.end(), first);
+    selectedSelection = std::move(moved);
     storeSelection();
     contentChanged.emit();
-    return true;
 }
 
 void LayoutsPreferencesViewController::storeSelection()

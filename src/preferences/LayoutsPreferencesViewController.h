@@ -49,6 +49,7 @@ public:
     std::string dragItem(std::size_t selectedRow) const override;
     bool acceptsDrop(DragSource source) const override { return source == DragSource::selectedTable; }
     bool drop(DragSource source, const std::vector<std::string>& items, std::size_t beforeRow) override;
+    void moveSelected(RowMove move) override;
 
 private:
     using SectionHeader = std::string;
@@ -56,6 +57,7 @@ private:
 
     void buildAvailableRows();
     std::vector<LayoutSummary> layoutsToAdd() const;
+    void moveBlock(const TableSelection& rows, std::size_t beforeRow);
     void add();
     void remove();
     void storeSelection();

@@ -9,6 +9,7 @@ using testing::ElementsAre;
 using testing::EndsWith;
 
 using Source = LayoutsPaneModel::DragSource;
+using Move = LayoutsPaneModel::RowMove;
 
 constexpr std::string_view sixLetters = R"({"layouts": [
     {"id": "A", "name": "A", "windows": []}, {"id": "B", "name": "B", "windows": []},
@@ -76,6 +77,43 @@ TEST_F(LayoutsDraggingTest, ADropFromElsewhereIsRefused)
     EXPECT_FALSE(pane.acceptsDrop(Source::elsewhere));
     EXPECT_FALSE(pane.drop(Source::elsewhere, {"1"}, 0));
     EXPECT_THAT(selected(), ElementsAre("A", "B", "C", "D", "E", "F"));
+}
+
+TEST_F(LayoutsDraggingTest, SelectedRowsGoUpAndDownAsOneBlock)
+{
+    pane.selectSelected({1});
+    pane.moveSelected(Move::down);
+    EXPECT_THAT(storedSelection(), ElementsAre("A", "C", "B", "D", "E", "F"));
+    pane.moveSelected(Move::down);
+    pane.moveSelected(Move::up);
+    EXPECT_THAT(storedSelection(), ElementsAre("A", "C", "B", "D", "E", "F"));
+    EXPECT_THAT(pane.content().selectedSelection, ElementsAre(2));
+    pane.selectSelected({1, 4});
+    pane.moveSelected(Move::up);
+    EXPECT_THAT(storedSelection(), ElementsAre("C", "E", "A", "B", "D", "F"));
+    EXPECT_THAT(pane.content().selectedSelection, ElementsAre(0, 1));
+    pane.selectSelected({2, 4});
+    pane.moveSelected(Move::down);
+    EXPECT_THAT(storedSelection(), ElementsAre("C", "E", "B", "F", "A", "D"));
+}
+
+TEST_F(LayoutsDraggingTest, AtTheEndsABlockStaysAndOthersAreGathered)
+{
+    const auto asStored = settings.stringArray("selectedLayoutIDs");
+    settings.remove("selectedLayoutIDs");
+    pane.moveSelected(Move::up);
+    pane.selectSelected({0, 1});
+    pane.moveSelected(Move::up);
+    pane.selectSelected({4, 5});
+    pane.moveSelected(Move::down);
+    EXPECT_FALSE(settings.isStored("selectedLayoutIDs")) << "nothing has moved";
+    EXPECT_EQ(selected(), asStored);
+    pane.selectSelected({0, 2});
+    pane.moveSelected(Move::up);
+    EXPECT_THAT(storedSelection(), ElementsAre("A", "C", "B", "D", "E", "F"));
+    pane.selectSelected({3, 5});
+    pane.moveSelected(Move::down);
+    EXPECT_THAT(storedSelection(), ElementsAre("A", "C", "B", "E", "D", "F"));
 }
 
 TEST_F(LayoutsDraggingTest, ARowTravelsAsItsNumberUnderAPrivateType)

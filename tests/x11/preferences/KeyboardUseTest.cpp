@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <set>
 
 #include "platform/simulated/SimulatedDesktop.h"
 #include "platform/x11/desktop/ToolkitModule.h"
@@ -199,6 +200,24 @@ TEST_F(KeyboardUseTest, EveryControlHasAName)
     closeByEscape();
 }
 
+TEST_F(KeyboardUseTest, NoTwoControlsOfAPaneHaveTheSameName)
+{
+    auto& layouts = *std::get<LayoutsPaneModel*>(controller->content().tabs.back().pane);
+    layouts.doubleClickAvailable(1);
+    layouts.doubleClickAvailable(2);
+    for (const auto& tab : controller->content().tabs) {
+        button(tab.title)->click();
+        QApplication::processEvents();
+        std::set<std::string> names;
+        for (auto* const control : controlsIn(*window)) {
+            if (control->isVisible()) {
+                EXPECT_TRUE(names.insert(nameOf(control)).second) << describe(control) << " in " << tab.title;
+            }
+        }
+    }
+    EXPECT_EQ(std::ranges::count_if(window->findChildren<QLineEdit*>(), &QWidget::isVisible), 2);
+}
+
 TEST_F(KeyboardUseTest, TabReachesEveryControlOfEveryPane)
 {
     for (const auto& tab : controller->content().tabs) {
@@ -228,9 +247,10 @@ TEST_F(KeyboardUseTest, TabGoesFromLeftToRightThroughTheLayouts)
     for (auto* const widget : walk()) {
         names.push_back(nameOf(widget));
     }
-    const auto digit = layouts.content().digitToolTip;
-    EXPECT_EQ(names, (std::vector<std::string>{"Layouts", "Available", layouts.content().add.accessibleName, remove,
-                                               "Selected", digit, digit}));
+    const auto rows = layouts.content().selected;
+    EXPECT_EQ(names,
+              (std::vector<std::string>{"Layouts", "Available", layouts.content().add.accessibleName, remove,
+                                        "Selected", rows.at(0).digitAccessibleName, rows.at(1).digitAccessibleName}));
 }
 
 TEST_F(KeyboardUseTest, WithALargeFontNothingIsCutInTheSmallestWindow)

@@ -64,6 +64,28 @@ TEST_F(LayoutsPane, SeveralRowsAreDraggedAsOneBlock)
     });
 }
 
+TEST_F(LayoutsPane, RowsAreMovedByAltAndTheArrowKeys)
+{
+    inPane("Layouts", [&] {
+        person.focus("Selected");
+        person.tap(XKB_KEY_Down); // from the first row
+        person.tap(XKB_KEY_Up, {Modifier::option});
+        waitForSelection(
+            {"centered", "one_full_screen", "two_side_by_side", "two_stacked", "three_side_by_side", "four_tiled"});
+        person.tap(XKB_KEY_Down, {Modifier::shift});
+        person.tap(XKB_KEY_Down, {Modifier::option});
+        person.tap(XKB_KEY_Down, {Modifier::option});
+        waitForSelection(
+            {"two_side_by_side", "two_stacked", "centered", "one_full_screen", "three_side_by_side", "four_tiled"});
+        session.waitFor("the rows to follow", [] {
+            const auto* const table = ShellPerson::list("Selected");
+            return table->item(2)->data(Qt::AccessibleTextRole).toString() == "Centered" && table->currentRow() == 3 &&
+                   table->hasFocus();
+        });
+        EXPECT_THAT(person.selectedRows("Selected"), ElementsAre("Centered", "Full Screen"));
+    });
+}
+
 TEST_F(LayoutsPane, ADigitMovesFromItsOldOwner)
 {
     inPane("Layouts", [&] {

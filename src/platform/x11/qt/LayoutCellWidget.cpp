@@ -122,21 +122,21 @@ LayoutCellWidget::LayoutCellWidget(const LayoutCell& cell, const TextLayouts& la
     }
     line->addWidget(thumbnail);
     line->addWidget(name, 1);
-    setToolTip(text(cell.name).toHtmlEscaped());
+    setToolTip(asMarkup(cell.name));
 }
 
-QLineEdit* LayoutCellWidget::addDigitField(const QString& digit, const QString& toolTip,
-                                           std::function<void(const QString&)> ended)
+QLineEdit* LayoutCellWidget::addDigitField(const DigitFieldContent& content, std::function<void(const QString&)> ended)
 {
     constexpr int fieldWidth = 30;
-    auto* const field = new DigitField(digit, this);
+    auto* const field = new DigitField(content.digit, this);
     QFont font = field->font();
     font.setWeight(QFont::DemiBold);
     field->setFont(font);
     field->setFixedWidth(std::max(fieldWidth, fontMetrics().horizontalAdvance("00") * 2));
     field->setAlignment(Qt::AlignCenter);
-    field->setToolTip(toolTip);
-    field->setAccessibleName(toolTip);
+    field->setToolTip(content.toolTip);
+    field->setAccessibleName(content.accessibleName);
+    field->setAccessibleDescription(content.toolTip);
     connect(field, &QLineEdit::editingFinished, field, [field, ended = std::move(ended)] {
         if (field->isModified()) { // not so where the keyboard has only passed by
             ended(field->text());

@@ -16,8 +16,14 @@ class LayoutCellWidget final : public QWidget {
 public:
     LayoutCellWidget(const LayoutCell& cell, const TextLayouts& layouts, QWidget* parent);
 
+    struct DigitFieldContent {
+        QString digit;
+        QString accessibleName;
+        QString toolTip;
+    };
+
     // Adds the field. `ended` is called with its text when editing ends.
-    QLineEdit* addDigitField(const QString& digit, const QString& toolTip, std::function<void(const QString&)> ended);
+    QLineEdit* addDigitField(const DigitFieldContent& content, std::function<void(const QString&)> ended);
 };
 
 } // namespace quorvel::x11

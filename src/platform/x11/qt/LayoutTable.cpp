@@ -40,6 +40,9 @@ void LayoutTable::enableDragging(Dragging newDragging)
 void LayoutTable::setRows(const std::vector<Row>& rows)
 {
     const QSignalBlocker quiet(this);
+    const auto replaced = selectedRows();
+    const auto current = std::ranges::find(replaced, static_cast<std::size_t>(std::max(currentRow(), 0)));
+    currentInSelection = current == replaced.end() ? 0 : static_cast<std::size_t>(current - replaced.begin());
     clear();
     for (const auto& row : rows) {
         auto* const item = new QListWidgetItem(this);
@@ -62,7 +65,8 @@ void LayoutTable::selectRows(const TableSelection& rows)
         item(index)->setSelected(std::ranges::binary_search(rows, static_cast<std::size_t>(index)));
     }
     if (!rows.empty()) {
-        setCurrentRow(static_cast<int>(rows.front()), QItemSelectionModel::NoUpdate);
+        const auto current = rows[std::min(currentInSelection, rows.size() - 1)];
+        setCurrentRow(static_cast<int>(current), QItemSelectionModel::NoUpdate);
     }
     viewport()->update();
 }
@@ -160,9 +164,21 @@ void LayoutTable::keyPressEvent(QKeyEvent* event)
         actions.click(static_cast<std::size_t>(currentRow()));
     } else if (event->key() == Qt::Key_Delete && actions.remove) {
         actions.remove();
-    } else {
+    } else if (!moveByKey(*event)) {
         QListWidget::keyPressEvent(event);
     }
+}
+
+// Not where the key comes from a field in a row, which may be another one than those selected.
+bool LayoutTable::moveByKey(const QKeyEvent& event)
+{
+    const bool isUp = event.key() == Qt::Key_Up;
+    if (!actions.move || !hasFocus() || !event.modifiers().testFlag(Qt::AltModifier) ||
+        (!isUp && event.key() != Qt::Key_Down)) {
+        return false;
+    }
+    actions.move(isUp ? LayoutsPaneModel::RowMove::up : LayoutsPaneModel::RowMove::down);
+    return true;
 }
 
 } // namespace quorvel::x11

@@ -16,8 +16,9 @@ public:
     struct Actions {
         std::function<void(const TableSelection&)> select;
         std::function<void(std::size_t row)> click;
-        std::function<void(std::size_t row)> activate; // a double-click, or Return
-        std::function<void()> remove;                  // Delete
+        std::function<void(std::size_t row)> activate;       // a double-click, or Return
+        std::function<void()> remove;                        // Delete
+        std::function<void(LayoutsPaneModel::RowMove)> move; // Alt and an arrow key
     };
 
     struct Dragging {
@@ -55,9 +56,11 @@ private:
     LayoutsPaneModel::DragSource sourceOf(const QDropEvent& event) const;
     std::size_t rowBefore(const QPoint& position) const;
     TableSelection selectedRows() const;
+    bool moveByKey(const QKeyEvent& event);
 
     Actions actions;
     Dragging dragging;
+    std::size_t currentInSelection = 0; // which of the selected rows was the current one, before they were replaced
 };
 
 } // namespace quorvel::x11

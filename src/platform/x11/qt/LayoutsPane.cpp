@@ -67,6 +67,7 @@ LayoutsPane::LayoutsPane(LayoutsPaneModel& model, const ToolkitHost& host, QWidg
     tables->addLayout(titledColumn(content.availableTitle, available, this), 1);
     tables->addLayout(buttons);
     tables->addLayout(titledColumn(content.selectedTitle, selected, this), 1);
+    selected->setAccessibleDescription(text(content.orderingToolTip));
     // The eye and the Tab key go from left to right.
     setTabOrder(available, add);
     setTabOrder(add, remove);
@@ -105,6 +106,7 @@ LayoutTable* LayoutsPane::createAvailableTable()
                                    },
                                .activate = [this](std::size_t row) { model.doubleClickAvailable(row); },
                                .remove = {},
+                               .move = {},
                            },
                            this);
 }
@@ -123,6 +125,7 @@ LayoutTable* LayoutsPane::createSelectedTable()
                                         model.press(button.id);
                                     }
                                 },
+                            .move = [this](LayoutsPaneModel::RowMove move) { model.moveSelected(move); },
                         },
                         this);
     table->enableDragging({
@@ -175,8 +178,11 @@ void LayoutsPane::showSelected(const LayoutsPaneContent& content)
     for (std::size_t index = 0; index < content.selected.size(); ++index) {
         const auto& row = content.selected[index];
         auto* const widget = new LayoutCellWidget(row.cell, host.textLayouts, selected);
+        widget->setToolTip(asMarkup(row.cell.name + "\n" + content.orderingToolTip));
         digitFields.push_back(
-            widget->addDigitField(text(row.digit), text(content.digitToolTip),
+            widget->addDigitField({.digit = text(row.digit),
+                                   .accessibleName = text(row.digitAccessibleName),
+                                   .toolTip = text(content.digitToolTip)},
                                   [this, id = row.cell.layoutID](const QString& digit) { endEditing(id, digit); }));
         rows.push_back({widget, static_cast<int>(std::ceil(row.height)), true, text(row.cell.name)});
     }

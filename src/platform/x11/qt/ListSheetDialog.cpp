@@ -114,7 +114,7 @@ QWidget* ListSheetDialog::createRow(const ListSheetRow& row)
     details->setVisible(!row.subtitle.empty());
     for (auto* const label : {name, details}) {
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        label->setToolTip(label->text().toHtmlEscaped());
+        label->setToolTip(asMarkup(utf8(label->text())));
         texts->addWidget(label);
     }
     line->addLayout(texts, 1);

@@ -22,4 +22,10 @@ inline QString labelText(std::string_view title)
     return text(title).replace('&', "&&");
 }
 
+// For tooltips and labels that guess what they are given: the text as markup that shows every character of it.
+inline QString asMarkup(std::string_view plain)
+{
+    return "<span>" + text(plain).toHtmlEscaped().replace('\n', "<br>") + "</span>";
+}
+
 } // namespace quorvel::x11
