@@ -22,7 +22,7 @@ public:
     // The canonical form, in upper case.
     std::string text() const;
 
-    auto operator<=>(const Uuid&) const = default;
+    bool operator==(const Uuid&) const = default;
 
 private:
     std::array<std::uint8_t, 16> bytes{};

@@ -14,9 +14,8 @@ debianPackages() {
         echo libxcb-render0-dev libxcb-render-util0-dev libxcb-xkb-dev libxcb-keysyms1-dev libxcb-icccm4-dev
         # the tests that are built beside them
         echo libxcb-damage0-dev libxcb-xtest0-dev
-        # the icons are drawn as SVG, the user guide is written in Markdown
-        echo librsvg2-bin cmark-gfm
         ;;
+    app) echo librsvg2-bin cmark-gfm ;; # the icons are drawn as SVG, the user guide is written in Markdown
     tests)
         echo xvfb xserver-xorg-core xserver-xorg-video-dummy x11-xkb-utils x11-xserver-utils xkb-data dbus-daemon dbus openssl
         echo fonts-dejavu-core fonts-inter
@@ -26,19 +25,21 @@ debianPackages() {
     macos)
         echo clang-19 libclang-rt-19-dev libgnustep-gui-dev gnustep-back0.29-cairo libblocksruntime-dev
         echo xvfb xauth fonts-dejavu-core
+        echo llvm python3 python3-yaml # for the check against Apple's headers
         ;;
     bench)
         echo libbenchmark-dev xvfb openbox picom xterm rofi sxhkd wmctrl fonts-dejavu-core
         ;;
     lint)
-        echo clang-format-19 clang-tidy-19 shellcheck python3 git
+        echo clang-format-19 clang-tidy-19 shellcheck python3 python3-yaml git
         ;;
     esac
 }
 
 brewPackages() {
     case $1 in
-    core) echo cmake ninja pkg-config ccache fmt nlohmann-json utf8proc googletest ;;
+    core) echo cmake ninja pkg-config ccache fmt nlohmann-json googletest ;;
+    app) echo librsvg cmark-gfm ;;
     lint) echo llvm@19 shellcheck ;;
     esac
 }
