@@ -7,7 +7,7 @@ export CCACHE_NOHASHDIR=1
 configure() {
     local preset=$1
     if command -v ccache >/dev/null; then
-        export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+        export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache CMAKE_OBJCXX_COMPILER_LAUNCHER=ccache
     fi
     # cmake is silent unless something is wrong
     cmake --preset "$preset" --log-level=WARNING >/dev/null
@@ -19,10 +19,10 @@ buildTargets() {
     cmake --build --preset "$preset" --target "$@"
 }
 
-# leaveProgram PRESET: build/bin/quorvel is the program that was built last.
+# leaveProgram PRESET PROGRAM: build/bin has the program that was built last.
 leaveProgram() {
     mkdir -p build/bin
-    ln -sfn "../$1/bin/quorvel" build/bin/quorvel
+    ln -sfn "../$1/bin/$2" "build/bin/$2"
 }
 
 buildProgram() {
@@ -32,6 +32,11 @@ buildProgram() {
         buildTargets core all # no program of its own: the portable part and the in-memory desktop
         return
     fi
-    buildTargets "$preset" quorvel
-    leaveProgram "$preset"
+    if isMac; then
+        buildTargets "$preset" quorvel_bundle
+        leaveProgram "$preset" Quorvel.app
+    else
+        buildTargets "$preset" quorvel
+        leaveProgram "$preset" quorvel
+    fi
 }

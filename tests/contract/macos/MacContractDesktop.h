@@ -1,7 +1,11 @@
 #pragma once
 
+#include "contract/macos/BundleFolder.h"
 #include "contract/simulated/SimulatedContractDesktop.h"
 #include "macos/fakes/FakeDesktop.h"
+#include "platform/macos/desktop/MacBundle.h"
+#include "platform/macos/desktop/MacLoginItem.h"
+#include "platform/macos/desktop/MacUpdater.h"
 #include "platform/macos/windows/MacWindowList.h"
 
 namespace quorvel::contract {
@@ -16,9 +20,15 @@ public:
     bool can(Capability capability) const override;
     bool turn() override;
     void settle() override;
+    void addResource(std::string_view name, std::string_view extension, std::string_view content) override;
+    void addUnreadableResource(std::string_view name, std::string_view extension) override;
 
 private:
     fakes::FakeDesktop fake{desktop};
+    BundleFolder bundleFolder;
+    macos::MacBundle bundle{bundleFolder.bundle()};
+    macos::MacLoginItem loginItem;
+    std::unique_ptr<macos::MacUpdater> updater = macos::MacUpdater::make();
     macos::MacWindowList windowList;
 };
 

@@ -22,7 +22,13 @@ MacContractDesktop::~MacContractDesktop() = default;
 
 ContractPorts MacContractDesktop::ports()
 {
-    return {.windowList = &windowList};
+    return {
+        .bundle = &bundle,
+        .windowList = &windowList,
+        .loginItem = &loginItem,
+        .updater = updater.get(),
+        .session = SimulatedContractDesktop::ports().session,
+    };
 }
 
 bool MacContractDesktop::can(Capability capability) const
@@ -48,6 +54,16 @@ void MacContractDesktop::settle()
     serveRunLoop();
     SimulatedContractDesktop::settle();
     serveRunLoop();
+}
+
+void MacContractDesktop::addResource(std::string_view name, std::string_view extension, std::string_view content)
+{
+    bundleFolder.addResource(name, extension, content);
+}
+
+void MacContractDesktop::addUnreadableResource(std::string_view name, std::string_view extension)
+{
+    bundleFolder.addUnreadableResource(name, extension);
 }
 
 std::unique_ptr<ContractDesktop> makeContractDesktop()

@@ -1,0 +1,64 @@
+#include <memory>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "contract/macos/BundleFolder.h"
+#include "macos/fakes/FakeDesktop.h"
+#include "platform/macos/desktop/MacBundle.h"
+#include "platform/macos/desktop/MacLoginItem.h"
+#include "platform/macos/desktop/MacUpdater.h"
+
+namespace quorvel::macos {
+namespace {
+
+class DesktopServicesTest : public testing::Test {
+protected:
+    SimulatedDesktop desktop;
+    fakes::FakeDesktop mac{desktop};
+};
+
+TEST_F(DesktopServicesTest, ALoginItemThatNeedsApprovalSaysSo)
+{
+    desktop.loginItem.requireApproval();
+    MacLoginItem item;
+    ASSERT_TRUE(item.registerItem());
+    EXPECT_EQ(item.status(), LoginItemStatus::requiresApproval);
+}
+
+TEST_F(DesktopServicesTest, TheSystemsReasonsForRefusingALoginItemArePassedOn)
+{
+    desktop.loginItem.refuse("The operation couldn’t be completed.");
+    MacLoginItem item;
+    EXPECT_EQ(item.registerItem(), std::unexpected("The operation couldn’t be completed."));
+    EXPECT_EQ(item.unregisterItem(), std::unexpected("The operation couldn’t be completed."));
+}
+
+TEST_F(DesktopServicesTest, AnUpdaterChecksWhenAsked)
+{
+    const auto updater = MacUpdater::make();
+    ASSERT_NE(updater, nullptr);
+    const auto controller = updater->createController();
+    desktop.journal.clear();
+    controller->checkForUpdates();
+    EXPECT_THAT(desktop.journal.entries(), testing::ElementsAre("UpdaterController.checkForUpdates()"));
+}
+
+TEST_F(DesktopServicesTest, TheGuideIsAPageOfTheBundle)
+{
+    const contract::BundleFolder folder;
+    folder.addResource("guide/index", "html", "<html></html>");
+    const auto address = MacBundle(folder.bundle()).userGuideAddress();
+    EXPECT_TRUE(address.starts_with("file:///")) << address;
+    EXPECT_TRUE(address.ends_with("/Resources/guide/index.html")) << address;
+}
+
+TEST_F(DesktopServicesTest, WithoutAGuideThereIsNoAddress)
+{
+    const contract::BundleFolder folder;
+    folder.removeResources("guide");
+    EXPECT_EQ(MacBundle(folder.bundle()).userGuideAddress(), "");
+}
+
+} // namespace
+} // namespace quorvel::macos
