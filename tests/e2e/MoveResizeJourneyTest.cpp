@@ -120,6 +120,28 @@ TEST_P(MoveResizeUnder, ArrowsMoveAndResizeAndTheFrameFollows)
     endCleanly();
 }
 
+TEST_P(MoveResizeUnder, KeysTypedFasterThanTheWindowManagerAnswersAllCount)
+{
+    const auto window = openWindow();
+    enter(window->id());
+    const auto rect = rectOf(window->id());
+    display.windowManager().hold();
+    for (int i = 0; i < 3; ++i) {
+        display.keyboard.tap(XKB_KEY_Right);
+        display.keyboard.tap(XKB_KEY_Down);
+        display.keyboard.tap({Modifier::shift}, XKB_KEY_Right);
+    }
+    const auto expected = grown(moved(rect, 60, 60), 60, 0);
+    display.client.waitFor("the frame to go ahead", [&] { return isShown(expected); });
+    EXPECT_EQ(rectOf(window->id()), rect);
+    display.windowManager().goOn();
+    quorvel->waitUntilPlaced(window->id(), expected);
+    waitUntilFramed(window->id());
+    leave();
+    EXPECT_TRUE(isNear(rectOf(window->id()), expected));
+    endCleanly();
+}
+
 TEST_P(MoveResizeUnder, AnEdgeAttractsAndTheThirdPressPullsFree)
 {
     const auto neighbour = openWindow({900, 200, 400, 500});

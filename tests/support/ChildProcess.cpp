@@ -115,6 +115,13 @@ void ChildProcess::sendSignal(int number) const
     }
 }
 
+void ChildProcess::sendSignalToGroup(int number) const
+{
+    if (!hasEnded()) {
+        ::kill(-process, number);
+    }
+}
+
 int ChildProcess::waitForEnd()
 {
     if (status) {

@@ -33,6 +33,7 @@ public:
 
     pid_t id() const { return process; }
     void sendSignal(int number) const;
+    void sendSignalToGroup(int number) const;
 
     // Waits for the end: the exit status, or 128 + the signal's number, as a shell has it.
     int waitForEnd();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,6 +34,10 @@ public:
 
     // Ends the running one and waits until it is gone.
     void stop();
+
+    // A busy one: it sees nothing until it goes on.
+    void hold() const { process->sendSignalToGroup(SIGSTOP); }
+    void goOn() const { process->sendSignalToGroup(SIGCONT); }
 
 private:
     void start();

@@ -42,6 +42,11 @@ public:
 
     bool hasTarget(const PlacementTarget& other) const { return target == other; }
 
+    // The window manager has been asked to bring the window there, not only to let it out of its state.
+    bool hasAsked() const { return lastRequest.has_value(); }
+
+    RootRect appliedTo(const RootRect& outer) const { return target.appliedTo(outer); }
+
     // Whether the window manager has been seen to put clients, not frames, at the position of a request.
     bool hasProvedClientAnchor() const { return hasProof; }
 

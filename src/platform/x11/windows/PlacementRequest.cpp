@@ -14,6 +14,13 @@ std::int32_t whole(double value)
 
 } // namespace
 
+RootRect PlacementTarget::appliedTo(const RootRect& outer) const
+{
+    const auto corner = origin.value_or(outer.origin());
+    const auto extent = size.value_or(outer.size());
+    return {corner.x, corner.y, extent.width, extent.height};
+}
+
 PlacementTarget wholePixels(const PlacementTarget& target)
 {
     PlacementTarget result = target;
@@ -37,10 +44,9 @@ PlacementOffset PlacementOffset::operator+(const PlacementOffset& other) const
 PlacementOffset offsetTo(const PlacementTarget& target, const WindowSnapshot& window)
 {
     const auto outer = window.outer();
-    const auto origin = target.origin.value_or(outer.origin());
-    const auto size = target.size.value_or(outer.size());
-    return {whole(origin.x - outer.x), whole(origin.y - outer.y), whole(size.width - outer.width),
-            whole(size.height - outer.height)};
+    const auto wanted = target.appliedTo(outer);
+    return {whole(wanted.x - outer.x), whole(wanted.y - outer.y), whole(wanted.width - outer.width),
+            whole(wanted.height - outer.height)};
 }
 
 WindowManager::Geometry placementRequest(const PlacementTarget& target, const WindowSnapshot& window,

@@ -13,6 +13,9 @@ struct PlacementTarget {
     std::optional<RootPoint> origin;
     std::optional<Size> size;
 
+    // Where a window that is at `outer` will be.
+    RootRect appliedTo(const RootRect& outer) const;
+
     bool operator==(const PlacementTarget&) const = default;
 };
 

@@ -69,7 +69,20 @@ Placements::Written& Placements::written(xcb_window_t window, const WindowSnapsh
         entry->second.snapshot = snapshot;
         entry->second.precedence = precedence.claim();
     }
+    outerMayChange(window);
     return entry->second;
+}
+
+RootRect Placements::outer(xcb_window_t window, const WindowSnapshot& snapshot) const
+{
+    auto rect = snapshot.outer();
+    if (const auto entry = running.find(window); entry != running.end() && entry->second.isOpen()) {
+        rect = entry->second.placement.appliedTo(rect);
+    }
+    if (const auto entry = writes.find(window); entry != writes.end()) {
+        rect = wholePixels(entry->second.target).appliedTo(rect);
+    }
+    return rect;
 }
 
 void Placements::flush()
@@ -95,7 +108,7 @@ void Placements::start(xcb_window_t window, Written& written)
     mainQueue.after(longestTime, weakGuard.guard([this, window, number] {
         const auto expired = running.find(window);
         if (expired != running.end() && expired->second.number == number) {
-            running.erase(expired);
+            end(expired);
         }
     }));
 }
@@ -120,7 +133,7 @@ void Placements::noteEvent(xcb_window_t window)
         return;
     }
     if (!barrier.isSupported()) {
-        noteAnswer(entry->second);
+        noteAnswer(window, entry->second);
     }
     noteActivity(window);
 }
@@ -136,16 +149,24 @@ void Placements::awaitAnswer(xcb_window_t window, Running& entry)
     barrier.whenReached(weakGuard.guard([this, window, request = entry.request] {
         const auto asking = running.find(window);
         if (asking != running.end() && asking->second.request == request) {
-            noteAnswer(asking->second);
+            noteAnswer(window, asking->second);
             noteActivity(window);
         }
     }));
 }
 
-void Placements::noteAnswer(Running& entry)
+void Placements::noteAnswer(xcb_window_t window, Running& entry)
 {
     entry.isAnswered = true;
     entry.precedence.reset();
+    outerMayChange(window);
+}
+
+void Placements::end(std::map<xcb_window_t, Running>::iterator entry)
+{
+    const auto window = entry->first;
+    running.erase(entry);
+    outerMayChange(window);
 }
 
 void Placements::noteActivity(xcb_window_t window)
@@ -189,13 +210,16 @@ void Placements::settle(xcb_window_t window, std::uint64_t activity)
     }
     const auto* const snapshot = windows.find(window);
     if (snapshot == nullptr) {
-        running.erase(entry);
+        end(entry);
         return;
     }
     auto& placement = entry->second.placement;
-    if (!placement.isFulfilledBy(*snapshot) && !entry->second.isAnswered && ++entry->second.vainWaits < mostVainWaits) {
-        noteActivity(window);
-        return;
+    if (!placement.isFulfilledBy(*snapshot) && !entry->second.isAnswered) {
+        if (++entry->second.vainWaits < mostVainWaits) {
+            noteActivity(window);
+            return;
+        }
+        barrier.noteVainWait();
     }
     const bool wasHeard = entry->second.asked == windowManager.identity();
     const auto step = wasHeard ? placement.settle(*snapshot) : placement.repeat(*snapshot);
@@ -203,7 +227,7 @@ void Placements::settle(xcb_window_t window, std::uint64_t activity)
         clientAnchoringManager = windowManager.identity();
     }
     if (step.isEmpty()) {
-        running.erase(entry);
+        end(entry);
         return;
     }
     perform(window, entry->second, step);

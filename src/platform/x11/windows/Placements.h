@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include <xcb/xcb.h>
@@ -32,6 +34,13 @@ public:
     void setOrigin(xcb_window_t window, const WindowSnapshot& snapshot, RootPoint origin);
     void setSize(xcb_window_t window, const WindowSnapshot& snapshot, Size size);
 
+    // Where a person may take the window to be. What was written counts until the window manager has dealt with it, so
+    // that who reads and writes again, faster than it answers, goes on from there.
+    RootRect outer(xcb_window_t window, const WindowSnapshot& snapshot) const;
+
+    // Calls back in the moment in which `outer` may tell something else without an event of the window; once only.
+    void whenOuterMayChange(std::function<void(xcb_window_t window)> callback) { outerMayChange = std::move(callback); }
+
     // Whether some window is still on its way or being watched over.
     bool isBusy() const { return !writes.empty() || !running.empty(); }
 
@@ -53,6 +62,8 @@ private:
         bool isAnswered = false;           // it has dealt with that request
         int vainWaits = 0;                 // how long there has been no sign of that
         bool isReconsiderationDue = false;
+
+        bool isOpen() const { return !isAnswered || !placement.hasAsked(); }
     };
 
     Written& written(xcb_window_t window, const WindowSnapshot& snapshot);
@@ -62,7 +73,8 @@ private:
     void noteActivity(xcb_window_t window);
     void noteEvent(xcb_window_t window);
     void awaitAnswer(xcb_window_t window, Running& entry);
-    static void noteAnswer(Running& entry);
+    void noteAnswer(xcb_window_t window, Running& entry);
+    void end(std::map<xcb_window_t, Running>::iterator entry);
     void reconsiderSoon(xcb_window_t window);
     void reconsider(xcb_window_t window);
     void settle(xcb_window_t window, std::uint64_t activity);
@@ -79,6 +91,7 @@ private:
     std::map<xcb_window_t, Running> running;
     std::uint64_t lastNumber = 0;
     WindowManager::Identity clientAnchoringManager = 0; // the window manager known to place clients, not frames
+    std::function<void(xcb_window_t)> outerMayChange = [](xcb_window_t) {};
     std::vector<Subscription> subscriptions;
     WeakGuard weakGuard;
 };

@@ -12,10 +12,10 @@ WindowAdapters::WindowAdapters(Connection& connection, MainQueue& mainQueue, X11
       windows(connection, rootProperties),
       activation(connection, windows, windowManager),
       placements(connection, mainQueue, precedence, windows, windowManager, barrier),
-      watcher(connection, mainQueue, windows),
+      watcher(connection, mainQueue, windows, placements),
       desktopEntries(DesktopEntries::standardDirectories()),
       screens(connection, mainQueue, rootProperties),
-      windowList(windows, screens),
+      windowList(windows, placements, screens),
       accessibility(windows, windowManager, activation, placements, watcher, screens),
       workspace(mainQueue, windows, activation, desktopEntries, std::move(lifecycle))
 {}

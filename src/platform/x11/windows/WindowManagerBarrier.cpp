@@ -28,13 +28,15 @@ WindowManagerBarrier::~WindowManagerBarrier()
 bool WindowManagerBarrier::isSupported()
 {
     const auto manager = windowManager.identity();
-    if (manager == 0 || !windowManager.supports(connection.atoms().netRequestFrameExtents)) {
-        return false;
+    return manager != 0 && manager != silentManager &&
+           windowManager.supports(connection.atoms().netRequestFrameExtents);
+}
+
+void WindowManagerBarrier::noteVainWait()
+{
+    if (askedManager != answeringManager) {
+        silentManager = askedManager;
     }
-    if (manager != askedManager) {
-        whenReached([] {});
-    }
-    return manager == answeringManager;
 }
 
 void WindowManagerBarrier::whenReached(std::function<void()> callback)

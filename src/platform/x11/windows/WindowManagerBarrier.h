@@ -21,9 +21,11 @@ public:
     WindowManagerBarrier& operator=(const WindowManagerBarrier&) = delete;
     ~WindowManagerBarrier();
 
-    // Whether the present window manager is known to answer. Some only say that they do; so each is tried once, and
-    // known from its first answer on.
+    // Whether the present window manager says that it answers, and has not been found silent.
     bool isSupported();
+
+    // It has been waited for in vain. Some only say that they answer; one that never did is not asked again.
+    void noteVainWait();
 
     // Calls back from the main loop once everything sent so far has been carried out; never if the window manager
     // goes before that.
@@ -37,6 +39,7 @@ private:
     xcb_window_t window;
     WindowManager::Identity askedManager = 0;
     WindowManager::Identity answeringManager = 0;
+    WindowManager::Identity silentManager = 0;
     std::deque<std::function<void()>> waiting; // answers come in the order of the questions
     Subscription selection;
     Subscription answers;

@@ -7,12 +7,15 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/Contains.h"
 #include "platform/x11/windows/ClientWindows.h"
+#include "platform/x11/windows/Placements.h"
 
 namespace quorvel::x11 {
 
-WindowWatcher::WindowWatcher(Connection& connection, MainQueue& mainQueue, ClientWindows& windows)
-    : connection(connection), mainQueue(mainQueue), windows(windows)
+WindowWatcher::WindowWatcher(Connection& connection, MainQueue& mainQueue, ClientWindows& windows,
+                             Placements& placements)
+    : connection(connection), mainQueue(mainQueue), windows(windows), placements(placements)
 {
+    placements.whenOuterMayChange(weakGuard.guard([this](xcb_window_t window) { noteChange(window); }));
     const auto note = [this](const auto& event) { noteChange(event.window); };
     subscriptions.push_back(connection.addHandler<xcb_configure_notify_event_t>(XCB_CONFIGURE_NOTIFY, note));
     subscriptions.push_back(connection.addHandler<xcb_reparent_notify_event_t>(XCB_REPARENT_NOTIFY, note));
@@ -34,7 +37,7 @@ Subscription WindowWatcher::watch(xcb_window_t window, Listener function)
     if (isFirst) {
         entry->second.following = windows.follow(window);
         if (const auto* const snapshot = windows.find(window)) {
-            entry->second.outer = snapshot->outer();
+            entry->second.outer = placements.outer(window, *snapshot);
         }
     }
     entry->second.listeners.push_back(listener);
@@ -84,7 +87,7 @@ void WindowWatcher::review(xcb_window_t window)
         watched.erase(window);
         return;
     }
-    const auto previous = std::exchange(entry->second.outer, snapshot->outer());
+    const auto previous = std::exchange(entry->second.outer, placements.outer(window, *snapshot));
     const auto current = entry->second.outer;
     if (current.origin() != previous.origin()) {
         tell(window, WindowChange::moved);

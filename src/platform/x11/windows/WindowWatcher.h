@@ -20,6 +20,7 @@ namespace quorvel::x11 {
 
 class ClientWindows;
 class Connection;
+class Placements;
 
 enum class WindowChange { moved, resized, destroyed };
 
@@ -29,7 +30,7 @@ class WindowWatcher {
 public:
     using Listener = std::function<void(WindowChange)>;
 
-    WindowWatcher(Connection& connection, MainQueue& mainQueue, ClientWindows& windows);
+    WindowWatcher(Connection& connection, MainQueue& mainQueue, ClientWindows& windows, Placements& placements);
 
     // Calls the listener from the main loop until the token goes; after `destroyed` no more. A window that its program
     // withdraws counts as destroyed.
@@ -51,6 +52,7 @@ private:
     Connection& connection;
     MainQueue& mainQueue;
     ClientWindows& windows;
+    Placements& placements;
     std::map<xcb_window_t, Watched> watched;
     std::set<xcb_window_t> changed;
     std::vector<Subscription> subscriptions;

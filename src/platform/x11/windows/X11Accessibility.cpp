@@ -158,10 +158,10 @@ std::expected<AxValue, AxError> X11Accessibility::readWindow(const WindowTarget&
         return snapshot.title;
     }
     if (name == axNames::position) {
-        return screens.coordinates().axPoint(snapshot.outer().origin());
+        return screens.coordinates().axPoint(placements.outer(target.window, snapshot).origin());
     }
     if (name == axNames::size) {
-        return snapshot.outer().size();
+        return placements.outer(target.window, snapshot).size();
     }
     if (name == axNames::minimized) {
         return snapshot.isHidden;

@@ -2,6 +2,7 @@
 
 #include "platform/x11/screens/X11Screens.h"
 #include "platform/x11/windows/ClientWindows.h"
+#include "platform/x11/windows/Placements.h"
 
 namespace quorvel::x11 {
 
@@ -37,7 +38,7 @@ std::vector<WindowListEntry> X11WindowList::onScreenWindows()
             continue;
         }
         entries.push_back({snapshot->identity.process, layerOf(snapshot->identity.kind),
-                           screens.coordinates().axRect(snapshot->outer())});
+                           screens.coordinates().axRect(placements.outer(window, *snapshot))});
     }
     return entries;
 }
