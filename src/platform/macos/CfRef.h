@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <utility>
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -13,6 +14,11 @@ public:
     CfRef() = default;
     CfRef(const CfRef& other) : object(retained(other.object)) {}
     CfRef(CfRef&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
+    // The same object as one of a more general type: a CFStringRef is a CFTypeRef.
+    template <class Special>
+        requires std::convertible_to<Special, T>
+    CfRef(CfRef<Special> other) noexcept : object(other.release())
+    {}
     ~CfRef()
     {
         if (object != nullptr) {
@@ -38,6 +44,10 @@ public:
     static CfRef retain(T object) { return adopt(retained(object)); }
 
     T get() const { return object; }
+
+    // Hands the reference to the caller.
+    T release() { return std::exchange(object, nullptr); }
+
     explicit operator bool() const { return object != nullptr; }
 
 private:

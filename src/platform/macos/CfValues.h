@@ -9,6 +9,13 @@
 
 namespace quorvel::macos {
 
+// The same object for Foundation, where the two know each other's types: bridged<NSString*>(aCFString).
+template <class T>
+T bridged(CFTypeRef object)
+{
+    return static_cast<T>(const_cast<void*>(object));
+}
+
 // The object as the type that T stands for, or null if it is of another type or null itself. No reference changes
 // hands.
 CFStringRef asString(CFTypeRef object);

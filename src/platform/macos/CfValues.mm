@@ -1,6 +1,6 @@
 #include "platform/macos/CfValues.h"
 
-#include <vector>
+#include "platform/macos/Strings.h"
 
 namespace quorvel::macos {
 
@@ -48,14 +48,7 @@ CfRef<CFStringRef> cfString(std::string_view text)
 
 std::string utf8(CFStringRef string)
 {
-    const auto length = CFStringGetLength(string);
-    const auto room = CFStringGetMaximumSizeForEncoding(length, kCFStringEncodingUTF8);
-    std::string text(static_cast<std::size_t>(room), '\0');
-    CFIndex used = 0;
-    CFStringGetBytes(string, CFRangeMake(0, length), kCFStringEncodingUTF8, 0, false,
-                     reinterpret_cast<UInt8*>(text.data()), room, &used);
-    text.resize(static_cast<std::size_t>(used));
-    return text;
+    return utf8(bridged<NSString*>(string));
 }
 
 std::optional<std::int64_t> integer(CFTypeRef object)

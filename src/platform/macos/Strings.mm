@@ -13,8 +13,10 @@ NSString* nsString(std::string_view text)
 
 std::string utf8(NSString* string)
 {
-    const char* const text = [string UTF8String];
-    return text != nullptr ? std::string(text) : std::string();
+    @autoreleasepool {
+        NSData* const bytes = [string dataUsingEncoding:NSUTF8StringEncoding allowLossyConversion:YES];
+        return {static_cast<const char*>([bytes bytes]), [bytes length]};
+    }
 }
 
 } // namespace quorvel::macos

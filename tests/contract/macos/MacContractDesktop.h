@@ -5,8 +5,12 @@
 #include "macos/fakes/FakeDesktop.h"
 #include "platform/macos/desktop/MacBundle.h"
 #include "platform/macos/desktop/MacLoginItem.h"
+#include "platform/macos/desktop/MacMainQueue.h"
+#include "platform/macos/desktop/MacScreens.h"
 #include "platform/macos/desktop/MacUpdater.h"
+#include "platform/macos/windows/MacAccessibility.h"
 #include "platform/macos/windows/MacWindowList.h"
+#include "platform/macos/windows/MacWorkspace.h"
 
 namespace quorvel::contract {
 
@@ -29,7 +33,11 @@ private:
     macos::MacBundle bundle{bundleFolder.bundle()};
     macos::MacLoginItem loginItem;
     std::unique_ptr<macos::MacUpdater> updater = macos::MacUpdater::make();
+    macos::MacMainQueue mainQueue;
+    macos::MacAccessibility accessibility{mainQueue};
+    macos::MacScreens screens;
     macos::MacWindowList windowList;
+    macos::MacWorkspace workspace{mainQueue};
 };
 
 } // namespace quorvel::contract

@@ -22,13 +22,15 @@ MacContractDesktop::~MacContractDesktop() = default;
 
 ContractPorts MacContractDesktop::ports()
 {
-    return {
-        .bundle = &bundle,
-        .windowList = &windowList,
-        .loginItem = &loginItem,
-        .updater = updater.get(),
-        .session = SimulatedContractDesktop::ports().session,
-    };
+    return {.mainQueue = &mainQueue,
+            .bundle = &bundle,
+            .accessibility = &accessibility,
+            .windowList = &windowList,
+            .workspace = &workspace,
+            .screens = &screens,
+            .loginItem = &loginItem,
+            .updater = updater.get(),
+            .session = SimulatedContractDesktop::ports().session};
 }
 
 bool MacContractDesktop::can(Capability capability) const

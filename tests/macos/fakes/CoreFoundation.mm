@@ -118,28 +118,6 @@ CFStringRef CFStringCreateWithBytes(CFAllocatorRef, const UInt8* bytes, CFIndex 
                                                                    encoding:NSUTF8StringEncoding]));
 }
 
-CFIndex CFStringGetLength(CFStringRef string)
-{
-    return static_cast<CFIndex>([as<NSString*>(string) length]);
-}
-
-CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding)
-{
-    return 3 * length;
-}
-
-CFIndex CFStringGetBytes(CFStringRef string, CFRange range, CFStringEncoding, UInt8, Boolean, UInt8* buffer,
-                         CFIndex room, CFIndex* used)
-{
-    NSString* const part = [as<NSString*>(string)
-        substringWithRange:NSMakeRange(static_cast<NSUInteger>(range.location), static_cast<NSUInteger>(range.length))];
-    NSData* const bytes = [part dataUsingEncoding:NSUTF8StringEncoding];
-    const auto count = std::min(static_cast<CFIndex>([bytes length]), room);
-    std::memcpy(buffer, [bytes bytes], static_cast<std::size_t>(count));
-    *used = count;
-    return range.length;
-}
-
 CFIndex CFArrayGetCount(CFArrayRef array)
 {
     return static_cast<CFIndex>([as<NSArray*>(array) count]);

@@ -26,6 +26,9 @@ FakeDesktop::FakeDesktop(SimulatedDesktop& desktop) : desktop(desktop)
 
 FakeDesktop::~FakeDesktop()
 {
+    if (runLoopSources > 0) {
+        complain("A source is still in the run loop");
+    }
     only = nullptr;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,14 @@ public:
     static int onSystem(ProcessId process);
 
     SimulatedDesktop& desktop;
+
+    // Sources that the run loop holds. A program that ends leaves none behind.
+    std::size_t runLoopSources = 0;
+
+    // Accessibility: what applications say to "AXEnhancedUserInterface", and the seconds that calls have waited for
+    // applications that hang.
+    std::map<ProcessId, bool> enhancedInterfaces;
+    double secondsWaited = 0.0;
 };
 
 // What a program did wrong: mistakes that the system bears in silence. A test that has some fails.

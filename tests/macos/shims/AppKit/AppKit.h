@@ -8,3 +8,5 @@
 #undef NO
 #define YES __objc_yes
 #define NO __objc_no
+
+#import <AppKit/Desktop.h>

@@ -7,6 +7,8 @@
 
 #import <Foundation/NSGeometry.h>
 #import <Foundation/NSString.h>
+#import <Foundation/NSValue.h>
+#include <sys/types.h>
 
 using UInt8 = std::uint8_t;
 using UInt16 = std::uint16_t;
@@ -45,15 +47,6 @@ using CFRunLoopSourceRef = struct FakeCFRunLoopSource*;
 using CFMachPortRef = struct FakeCFMachPort*;
 using CFRunLoopMode = CFStringRef;
 
-struct CFRange {
-    CFIndex location;
-    CFIndex length;
-};
-static inline CFRange CFRangeMake(CFIndex location, CFIndex length)
-{
-    return {location, length};
-}
-
 struct CFDictionaryKeyCallBacks {};
 struct CFDictionaryValueCallBacks {};
 extern const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks;
@@ -67,14 +60,13 @@ enum CFNumberType : CFIndex {
 };
 
 #define kCFAllocatorDefault (static_cast<CFAllocatorRef>(nullptr))
+#define kCFBooleanTrue ((CFBooleanRef)[NSNumber numberWithBool:1])
+#define kCFBooleanFalse ((CFBooleanRef)[NSNumber numberWithBool:0])
 #define CFSTR(text) ((CFStringRef) @text)
 #define kCFRunLoopDefaultMode CFSTR("kCFRunLoopDefaultMode")
 #define kCFRunLoopCommonModes CFSTR("kCFRunLoopCommonModes")
 
 extern "C" {
-extern const CFBooleanRef kCFBooleanTrue;
-extern const CFBooleanRef kCFBooleanFalse;
-
 CFTypeRef CFRetain(CFTypeRef object);
 void CFRelease(CFTypeRef object);
 Boolean CFEqual(CFTypeRef one, CFTypeRef other);
@@ -88,11 +80,6 @@ CFTypeID CFDataGetTypeID();
 
 CFStringRef CFStringCreateWithBytes(CFAllocatorRef allocator, const UInt8* bytes, CFIndex count,
                                     CFStringEncoding encoding, Boolean isExternal);
-CFIndex CFStringGetLength(CFStringRef string);
-CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding encoding);
-CFIndex CFStringGetBytes(CFStringRef string, CFRange range, CFStringEncoding encoding, UInt8 loss, Boolean isExternal,
-                         UInt8* buffer, CFIndex room, CFIndex* used);
-
 CFIndex CFArrayGetCount(CFArrayRef array);
 const void* CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
 
