@@ -181,6 +181,9 @@ void LayoutOverlayMode::choose(const std::string& character, const Showing& show
 {
     if (const auto found = showing.labelToFrame.find(upperCased(character)); found != showing.labelToFrame.end()) {
         environment.handleAction(Action::moveClientWindow, {found->second, showing.screens, showing.element});
+        if (!showing.element->axWindowElement()) {
+            environment.platform.log.line("Window is gone; nothing was placed");
+        }
     }
     environment.handleAction(Action::cancel, {});
 }

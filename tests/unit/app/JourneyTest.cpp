@@ -66,7 +66,7 @@ TEST_F(JourneyTest, AnotherLayoutThenADigitThenALetter)
     EXPECT_TRUE(isOverlayGone());
 }
 
-TEST_F(JourneyTest, AWindowThatClosesBeforeTheLetterIsNotMissed)
+TEST_F(JourneyTest, AWindowThatClosesBeforeTheLetterLeavesALineInTheLog)
 {
     launch();
     pressOverlayHotKey();
@@ -75,7 +75,17 @@ TEST_F(JourneyTest, AWindowThatClosesBeforeTheLetterIsNotMissed)
     forget();
     type(keyCodes::a);
     EXPECT_TRUE(writes().empty());
+    EXPECT_EQ(linesBeginningWith("Window is gone").size(), 1U);
+    EXPECT_EQ(linesBeginningWith("Window is gone").at(0), "Window is gone; nothing was placed");
     EXPECT_TRUE(isOverlayGone());
+}
+
+TEST_F(JourneyTest, AWindowThatIsPlacedIsNotCalledGone)
+{
+    launch();
+    pressOverlayHotKey();
+    type(keyCodes::a);
+    EXPECT_TRUE(linesBeginningWith("Window is gone").empty());
 }
 
 TEST_F(JourneyTest, AWindowThatClosesWhileItIsMovedLeavesALineInTheLog)
