@@ -38,15 +38,15 @@ void FocusSwitcherMode::start()
     const Settings settings(platform.userDefaults);
     const auto toggles = focusToggleKeys(settings);
     auto labels = FocusLabels::assign(candidates, focusAlphabet(platform.keyboardLayout, toggles));
-    const auto showing = std::make_shared<const Showing>(Showing{toggles, std::move(labels)});
+    current = std::make_shared<const Showing>(Showing{toggles, std::move(labels)});
     if (focusSwitcherDisplayMode(settings) == FocusSwitcherDisplayMode::windowList) {
         state.isAllWindowsPanelVisible = true;
     } else {
-        showLabels(showing->labels);
+        showLabels(current->labels);
     }
-    showPanels(candidates, showing->labels);
+    showPanels(candidates, current->labels);
     environment.stateManager.currentState = StateManager::States::overlayOn;
-    captureKeys(showing);
+    captureKeys();
     watchMouse();
 }
 
@@ -69,7 +69,8 @@ void FocusSwitcherMode::showPanels(const FocusCandidates& candidates, const Focu
     }
 }
 
-void FocusSwitcherMode::captureKeys(std::shared_ptr<const Showing> showing)
+// A key that was typed before an earlier one ended the run may arrive after that.
+void FocusSwitcherMode::captureKeys()
 {
     auto* blocker = environment.eventBlocker;
     if (blocker == nullptr) {
@@ -77,8 +78,11 @@ void FocusSwitcherMode::captureKeys(std::shared_ptr<const Showing> showing)
     }
     blocker->clearBlockedKeys();
     blocker->blockAllKeys();
-    blocker->setOnBlockKey(
-        weakly.guard([this, showing = std::move(showing)](const CapturedKey& key) { handleKey(*showing, key); }));
+    blocker->setOnBlockKey(weakly.guard([this, showing = std::weak_ptr(current)](const CapturedKey& key) {
+        if (const auto present = showing.lock()) {
+            handleKey(*present, key);
+        }
+    }));
 }
 
 void FocusSwitcherMode::watchMouse()
@@ -89,24 +93,20 @@ void FocusSwitcherMode::watchMouse()
 
 void FocusSwitcherMode::handleKey(const Showing& showing, const CapturedKey& key)
 {
-    const bool isLate = !state.focusSwitcherMouseMonitor.isActive(); // typed before an earlier key took effect
-    if (isLate) {
-        return;
-    }
     if (key.keyCode == keyCodes::escape) {
         dismiss();
     } else if (key.keyCode == showing.toggles.minimized) {
-        toggle(state.isMinimizedPanelVisible, !state.minimizedWindowsPanels.empty());
+        toggle(state.isMinimizedPanelVisible, state.minimizedWindowsPanels);
     } else if (key.keyCode == showing.toggles.allWindows) {
-        toggle(state.isAllWindowsPanelVisible, !state.allWindowsListPanels.empty());
+        toggle(state.isAllWindowsPanelVisible, state.allWindowsListPanels);
     } else {
         choose(upperCased(key.character), showing);
     }
 }
 
-void FocusSwitcherMode::toggle(bool& isPanelVisible, bool hasPanels)
+void FocusSwitcherMode::toggle(bool& isPanelVisible, const std::vector<std::unique_ptr<OverlayWindow>>& shownPanels)
 {
-    if (hasPanels) {
+    if (!shownPanels.empty()) {
         isPanelVisible = !isPanelVisible;
         panels.refresh();
     }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "app/FocusPanels.h"
 #include "app/ModeEnvironment.h"
@@ -22,6 +23,10 @@ public:
     // Labels the windows there are and takes the keyboard. Without any window a line in the log says so.
     void start();
 
+    // Forgets the run, so that keys that were typed in it and arrive later mean nothing; what it shows is the caller's
+    // to take down.
+    void leave() { current.reset(); }
+
 private:
     // What the keys mean in one run.
     struct Showing {
@@ -31,11 +36,11 @@ private:
 
     void showLabels(const FocusLabels& labels);
     void showPanels(const FocusCandidates& candidates, const FocusLabels& labels);
-    void captureKeys(std::shared_ptr<const Showing> showing);
+    void captureKeys();
     void watchMouse();
 
     void handleKey(const Showing& showing, const CapturedKey& key);
-    void toggle(bool& isPanelVisible, bool hasPanels);
+    void toggle(bool& isPanelVisible, const std::vector<std::unique_ptr<OverlayWindow>>& shownPanels);
     void choose(const std::string& label, const Showing& showing);
     void focus(const FocusWindowInfo& window);
     void restore(const MinimizedWindowInfo& window);
@@ -46,6 +51,7 @@ private:
     ModeState& state;
     std::function<void()> dismiss;
     FocusPanels panels;
+    std::shared_ptr<const Showing> current; // present while the switcher is up
     WeakGuard weakly;
 };
 

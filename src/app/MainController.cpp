@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "app/NumberInRange.h"
+#include "app/OverlayNavigation.h"
 #include "platform/Log.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
@@ -17,18 +18,6 @@
 namespace quorvel {
 
 namespace {
-
-struct NavigationHotKey {
-    Action action = Action::cancel;
-    ShortcutKeys keys;
-};
-
-constexpr NavigationHotKey navigationHotKeys[] = {
-    {Action::nextLayout, shortcutKeys::nextLayout},
-    {Action::previousLayout, shortcutKeys::previousLayout},
-    {Action::nextScreen, shortcutKeys::nextScreen},
-    {Action::previousScreen, shortcutKeys::previousScreen},
-};
 
 constexpr auto largestHotKeyNumber = std::numeric_limits<std::uint32_t>::max();
 
@@ -83,11 +72,11 @@ void MainController::registerShortcuts()
                    Action::moveResizeFrontmost);
     registerHotKey(shortcutKeys::focusSwitcher, mainShortcut(settings, shortcutKeys::focusSwitcher),
                    Action::focusSwitcher);
-    for (const auto& hotKey : navigationHotKeys) {
-        const auto shortcut = navigationShortcut(settings, hotKey.keys);
+    for (const auto& command : navigationCommands) {
+        const auto shortcut = navigationShortcut(settings, command.keys);
         // Without modifiers it works inside the overlay only.
         if (shortcut.modifiers != 0) {
-            registerHotKey(hotKey.keys, shortcut, hotKey.action);
+            registerHotKey(command.keys, shortcut, command.action);
         }
     }
 }
@@ -223,6 +212,7 @@ void MainController::dismissFocusSwitcher()
 {
     overlayWindowManager.hideAll();
     releaseBlocker();
+    focusSwitcherMode.leave();
     modes.focusSwitcherMouseMonitor.reset();
     for (auto* panels : {&modes.minimizedWindowsPanels, &modes.allWindowsListPanels}) {
         for (const auto& panel : *panels) {
@@ -244,7 +234,7 @@ bool MainController::isLabelling() const
 bool MainController::isFocusSwitcherLeft() const
 {
     return modes.focusSwitcherMouseMonitor.isActive() || !modes.minimizedWindowsPanels.empty() ||
-           !modes.allWindowsListPanels.empty() || overlayWindowManager.isOverlayVisible();
+           !modes.allWindowsListPanels.empty();
 }
 
 void MainController::releaseBlocker()

@@ -3,24 +3,10 @@
 #include <limits>
 
 #include "app/NumberInRange.h"
-#include "settings/ShortcutSettings.h"
 
 namespace quorvel {
 
 namespace {
-
-struct NavigationCommand {
-    Action action = Action::cancel;
-    ShortcutKeys keys;
-    KeyCode builtInKey = 0;
-};
-
-constexpr NavigationCommand navigationCommands[] = {
-    {Action::nextLayout, shortcutKeys::nextLayout, keyCodes::downArrow},
-    {Action::previousLayout, shortcutKeys::previousLayout, keyCodes::upArrow},
-    {Action::nextScreen, shortcutKeys::nextScreen, keyCodes::rightArrow},
-    {Action::previousScreen, shortcutKeys::previousScreen, keyCodes::leftArrow},
-};
 
 Shortcut checkedShortcut(const Settings& settings, const ShortcutKeys& keys)
 {

@@ -10,7 +10,7 @@ namespace quorvel {
 Subscription SimulatedEventMonitors::addGlobalMouseDownMonitor(std::function<void()> handler)
 {
     journal.record("EventMonitors.addGlobalMouseDownMonitor({})", nextId);
-    return journalled(mouseMonitors.observe(std::move(handler)));
+    return refusesMouseMonitors ? Subscription() : journalled(mouseMonitors.observe(std::move(handler)));
 }
 
 Subscription SimulatedEventMonitors::addLocalKeyDownMonitor(std::function<EventHandling(const KeyEvent&)> handler)

@@ -21,6 +21,9 @@ public:
     std::size_t mouseMonitorCount() const { return mouseMonitors.observerCount(); }
     std::size_t keyMonitorCount() const { return keyMonitors.observerCount(); }
 
+    // Makes the platform refuse further monitors of the mouse: they never hear of anything.
+    void refuseMouseMonitors() { refusesMouseMonitors = true; }
+
     // Tell the monitors, now.
     void mouseDown() { mouseMonitors.emit(); }
     EventHandling keyDown(const KeyEvent& event);
@@ -32,6 +35,7 @@ private:
     Signal<> mouseMonitors;
     Signal<const KeyEvent&, EventHandling&> keyMonitors;
     std::uint64_t nextId = 1;
+    bool refusesMouseMonitors = false;
 };
 
 } // namespace quorvel

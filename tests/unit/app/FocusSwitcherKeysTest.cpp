@@ -286,6 +286,22 @@ TEST_F(FocusSwitcherKeysTest, ALateKeyAfterTheDismissalDoesNothing)
     EXPECT_TRUE(isSwitcherGone());
 }
 
+TEST_F(FocusSwitcherKeysTest, WithoutAMouseMonitorTheKeysWorkAllTheSame)
+{
+    desktop.eventMonitors.refuseMouseMonitors();
+    auto& mail = desktop.launch("Mail");
+    desktop.openWindow(mail, "Inbox", {500, 200, 600, 400});
+    open(); // A: the editor, B: the mail
+    type(keyCodes::tab);
+    EXPECT_TRUE(allWindowsPanel()->isVisible);
+    type(keys::b);
+    EXPECT_EQ(desktop.windowServer.frontmostProcess(), mail.process());
+    EXPECT_TRUE(isSwitcherGone());
+    pressSwitcherHotKey();
+    type(keyCodes::escape);
+    EXPECT_TRUE(isSwitcherGone());
+}
+
 // Where there is no event tap, a panel takes the keyboard and this program becomes the active one.
 class FocusSwitcherFallbackTest : public FocusSwitcherKeysTest {
 protected:
