@@ -4,15 +4,15 @@
 
 #include "platform/Platform.h"
 #include "system/AxReading.h"
+#include "system/WindowInfo.h"
 
 namespace quorvel {
 
 ApplicationWindows::Match ApplicationWindows::takeWindowAt(ProcessId process, const AxRect& bounds)
 {
-    constexpr double tolerance = 2.0;
     Match match;
     for (auto& window : locatedWindows(process)) {
-        if (!window.rect || !nearlyEqual(*window.rect, bounds, tolerance)) {
+        if (!window.rect || !isSamePlace(*window.rect, bounds)) {
             continue;
         }
         if (!window.isTaken) {

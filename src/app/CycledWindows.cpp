@@ -5,24 +5,14 @@
 
 namespace quorvel {
 
-namespace {
-
-constexpr double tolerance = 2.0; // points
-
-} // namespace
-
 CycledWindows::CycledWindows(std::vector<WindowInfo> windows, const std::optional<AxRect>& current)
     : entries(std::move(windows)), recorded(current), own(entryAt(current)), index(own.value_or(0))
 {}
 
-void CycledWindows::stepForwards()
+void CycledWindows::step(CycleDirection direction)
 {
-    index = (index + 1) % entries.size();
-}
-
-void CycledWindows::stepBackwards()
-{
-    index = (index + entries.size() - 1) % entries.size();
+    const auto distance = direction == CycleDirection::forwards ? 1 : entries.size() - 1;
+    index = (index + distance) % entries.size();
 }
 
 void CycledWindows::record(const AxRect& present)
@@ -43,9 +33,8 @@ void CycledWindows::enter(std::size_t newIndex)
 
 void CycledWindows::removeCurrent()
 {
-    std::erase_if(entries, [this](const WindowInfo& window) {
-        return recorded && nearlyEqual(window.bounds, *recorded, tolerance);
-    });
+    std::erase_if(entries,
+                  [this](const WindowInfo& window) { return recorded && isSamePlace(window.bounds, *recorded); });
     own.reset();
     index = entries.empty() ? 0 : std::min(index, entries.size() - 1);
 }
@@ -55,8 +44,8 @@ std::optional<std::size_t> CycledWindows::entryAt(const std::optional<AxRect>& r
     if (!rect) {
         return std::nullopt;
     }
-    const auto found = std::ranges::find_if(
-        entries, [&](const WindowInfo& window) { return nearlyEqual(window.bounds, *rect, tolerance); });
+    const auto found =
+        std::ranges::find_if(entries, [&](const WindowInfo& window) { return isSamePlace(window.bounds, *rect); });
     return found != entries.end() ? std::optional(static_cast<std::size_t>(found - entries.begin())) : std::nullopt;
 }
 

@@ -9,6 +9,8 @@
 
 namespace quorvel {
 
+enum class CycleDirection { forwards, backwards };
+
 // The windows that the move/resize mode goes through, as they were when it began, and its place among them. Bounds are
 // what windows are recognised by, so an entry follows its window when the mode leaves it for another one.
 class CycledWindows {
@@ -25,8 +27,7 @@ public:
     std::optional<std::size_t> ownEntry() const { return own; }
 
     // To the next or the previous entry, round the ends; not while there are none.
-    void stepForwards();
-    void stepBackwards();
+    void step(CycleDirection direction);
 
     // Takes note of where the mode's window is now.
     void record(const AxRect& present);

@@ -29,15 +29,6 @@ void appendEntries(std::vector<MinimizedWindowEntry>& entries, const std::map<st
     }
 }
 
-void setShown(OverlayWindow& panel, bool isShown)
-{
-    if (isShown) {
-        panel.orderFrontRegardless();
-    } else {
-        panel.orderOut();
-    }
-}
-
 } // namespace
 
 void FocusPanels::build(const FocusCandidates& candidates, const FocusLabels& labels)
@@ -65,11 +56,11 @@ void FocusPanels::build(const FocusCandidates& candidates, const FocusLabels& la
 void FocusPanels::refresh()
 {
     for (const auto& panel : state.allWindowsListPanels) {
-        setShown(*panel, state.isAllWindowsPanelVisible);
+        state.isAllWindowsPanelVisible ? panel->orderFrontRegardless() : panel->orderOut();
     }
     for (const auto& panel : state.minimizedWindowsPanels) {
         placeMinimizedPanel(*panel);
-        setShown(*panel, state.isMinimizedPanelVisible);
+        state.isMinimizedPanelVisible ? panel->orderFrontRegardless() : panel->orderOut();
     }
 }
 
@@ -82,15 +73,8 @@ std::unique_ptr<OverlayWindow> FocusPanels::makePanel(std::string title,
     auto list = view.body({platform.textMetrics, platform.systemColors}, room);
     auto panel = platform.overlayWindows.createWindow({
         .contentRect = {visibleFrame.x, visibleFrame.y, list.fittingSize.width, list.fittingSize.height},
-        .styleMask = 0,
         .level = panelLevel,
-        .collectionBehavior = collectionBehaviors::canJoinAllSpaces | collectionBehaviors::ignoresCycle |
-                              collectionBehaviors::fullScreenAuxiliary,
-        .hasShadow = false,
-        .ignoresMouseEvents = true,
-        .isOpaque = false,
-        .isReleasedWhenClosed = false,
-        .isDeferred = false,
+        .collectionBehavior = collectionBehaviors::besideEverything,
     });
     panel->setContent(std::move(list.content));
     panel->setClipsToBounds(false);

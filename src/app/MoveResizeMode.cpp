@@ -116,7 +116,7 @@ void MoveResizeMode::handleKey(const CapturedKey& key)
     if (const auto arrow = arrowKey(keys, key.keyCode)) {
         pressArrow(*arrow, isResizing ? ArrowEffect::resize : ArrowEffect::move);
     } else if (key.keyCode == keys.cycleWindows) {
-        cycle(isResizing);
+        cycle(isResizing ? CycleDirection::backwards : CycleDirection::forwards);
     } else if (key.keyCode == keys.minimize) {
         minimize();
     } else if (key.keyCode == keys.exitMode) {
@@ -199,13 +199,13 @@ void MoveResizeMode::hideSnapTarget() const
     }
 }
 
-void MoveResizeMode::cycle(bool backwards)
+void MoveResizeMode::cycle(CycleDirection direction)
 {
     auto& windows = run->windows;
     if (windows.windows().empty()) {
         return;
     }
-    backwards ? windows.stepBackwards() : windows.stepForwards();
+    windows.step(direction);
     if (const auto present = modes.moveResizeElement->windowRect()) {
         windows.record(*present);
     }

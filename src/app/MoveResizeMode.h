@@ -52,7 +52,7 @@ private:
     void endSnap();
     void hideSnapTarget() const;
 
-    void cycle(bool backwards);
+    void cycle(CycleDirection direction);
     bool continueWith(std::size_t index);
     void minimize();
     bool continueAfterMinimizing();

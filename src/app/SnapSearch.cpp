@@ -13,6 +13,13 @@ namespace {
 constexpr double ownOriginTolerance = 2.0; // points
 constexpr double leastProgress = 1.0;      // points
 
+enum class Axis { horizontal, vertical };
+
+constexpr Axis across(Axis axis)
+{
+    return axis == Axis::horizontal ? Axis::vertical : Axis::horizontal;
+}
+
 // The two edges of a rectangle along an axis.
 struct Extent {
     double low = 0.0;
@@ -33,9 +40,9 @@ struct Candidate {
     const AxRect* window = nullptr;
 };
 
-Extent along(const AxRect& rect, bool horizontal)
+Extent along(const AxRect& rect, Axis axis)
 {
-    return horizontal ? Extent{rect.minX(), rect.maxX()} : Extent{rect.minY(), rect.maxY()};
+    return axis == Axis::horizontal ? Extent{rect.minX(), rect.maxX()} : Extent{rect.minY(), rect.maxY()};
 }
 
 bool overlap(const Extent& a, const Extent& b)
@@ -70,7 +77,7 @@ public:
         : step(step),
           neighbours(neighbours),
           threshold(threshold),
-          horizontal(isHorizontal(step.key)),
+          axis(isHorizontal(step.key) ? Axis::horizontal : Axis::vertical),
           screen(screenOf(step.after, neighbours.screens))
     {}
 
@@ -88,8 +95,8 @@ public:
 private:
     bool mayAttract(const AxRect& window) const
     {
-        return overlap(along(step.after, !horizontal), along(window, !horizontal)) && !isAtOrigin(window, step.after) &&
-               isOnScreen(window);
+        return overlap(along(step.after, across(axis)), along(window, across(axis))) &&
+               !isAtOrigin(window, step.after) && isOnScreen(window);
     }
 
     bool isOnScreen(const AxRect& window) const
@@ -103,9 +110,9 @@ private:
 
     void tryEdges(const AxRect& window)
     {
-        const auto before = along(step.before, horizontal);
-        const auto after = along(step.after, horizontal);
-        const auto target = along(window, horizontal);
+        const auto before = along(step.before, axis);
+        const auto after = along(step.after, axis);
+        const auto target = along(window, axis);
         const std::array pairs{
             EdgePair{before.low, after.low, target.high},
             EdgePair{before.low, after.low, target.low},
@@ -132,15 +139,15 @@ private:
     Snap snapTo(const Candidate& candidate) const
     {
         const auto& window = *candidate.window;
-        const auto edge = horizontal ? AxRect{candidate.target, window.y, 0.0, window.height}
-                                     : AxRect{window.x, candidate.target, window.width, 0.0};
+        const auto edge = axis == Axis::horizontal ? AxRect{candidate.target, window.y, 0.0, window.height}
+                                                   : AxRect{window.x, candidate.target, window.width, 0.0};
         return {changedBy(step.after, step.key, step.effect, candidate.shift), edge};
     }
 
     const SnapStep& step;
     const SnapNeighbours& neighbours;
     double threshold;
-    bool horizontal;
+    Axis axis;
     const Screen* screen;
     std::optional<Candidate> best;
 };

@@ -8,12 +8,11 @@
 #include "platform/Platform.h"
 #include "system/AxReading.h"
 #include "system/WindowElementModel.h"
+#include "system/WindowInfo.h"
 
 namespace quorvel {
 
 namespace {
-
-constexpr double tolerance = 2.0; // points
 
 AxElementRef windowAt(const Platform& platform, const std::vector<AxElementRef>& windows, const AxRect& rect,
                       const AxElement& preferred)
@@ -21,7 +20,7 @@ AxElementRef windowAt(const Platform& platform, const std::vector<AxElementRef>&
     AxElementRef first;
     for (const auto& window : windows) {
         const auto present = quietRect(platform, window);
-        if (!present || !nearlyEqual(*present, rect, tolerance)) {
+        if (!present || !isSamePlace(*present, rect)) {
             continue;
         }
         if (window->isEqual(preferred)) {

@@ -51,6 +51,7 @@ std::optional<UnitRect> frameFromCorners(const PropertyDictionary& record)
                     std::max(window.top_right_y - window.bottom_left_y, 0.0)};
 }
 
+// Sizes are never negative (see Geometry.h), so one that is counts as none, as where corners are in the wrong order.
 std::optional<UnitRect> frameFromOriginAndSize(const PropertyDictionary& record)
 {
     const auto x = number(record, {"x", "minX", "left"});

@@ -115,15 +115,9 @@ OverlayWindow& OverlayWindowManager::addWindow(const ScreenRect& contentRect, in
 {
     overlayWindows.push_back(windows.createWindow({
         .contentRect = contentRect,
-        .styleMask = 0,
         .level = level,
-        .collectionBehavior = collectionBehaviors::canJoinAllSpaces | collectionBehaviors::ignoresCycle |
-                              collectionBehaviors::fullScreenAuxiliary,
+        .collectionBehavior = collectionBehaviors::besideEverything,
         .hasShadow = shadow == WindowShadow::drawn,
-        .ignoresMouseEvents = true,
-        .isOpaque = false,
-        .isReleasedWhenClosed = false,
-        .isDeferred = false,
     }));
     return *overlayWindows.back();
 }

@@ -24,6 +24,7 @@ namespace collectionBehaviors {
 inline constexpr unsigned canJoinAllSpaces = 1U << 0U;
 inline constexpr unsigned ignoresCycle = 1U << 6U;
 inline constexpr unsigned fullScreenAuxiliary = 1U << 8U;
+inline constexpr unsigned besideEverything = canJoinAllSpaces | ignoresCycle | fullScreenAuxiliary;
 } // namespace collectionBehaviors
 
 // A borderless window without background, in the terms of the platform's window toolkit.

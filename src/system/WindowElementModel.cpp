@@ -15,12 +15,12 @@
 #include "system/AxReading.h"
 #include "system/OverlayFrameWindowController.h"
 #include "system/ScreensModel.h"
+#include "system/WindowInfo.h"
 
 namespace quorvel {
 
 namespace {
 
-constexpr double matchTolerance = 2.0; // points
 constexpr std::array observedNotifications{axNames::moved, axNames::resized, axNames::elementDestroyed};
 
 std::string codeText(AxError error)
@@ -76,7 +76,7 @@ std::shared_ptr<WindowElementModel> WindowElementModel::findWindow(const Platfor
             continue;
         }
         const auto rect = quietRect(platform, window);
-        if (!rect || !nearlyEqual(*rect, bounds, matchTolerance)) {
+        if (!rect || !isSamePlace(*rect, bounds)) {
             continue;
         }
         // A window that refuses to come forward is still the one.

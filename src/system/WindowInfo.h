@@ -13,4 +13,12 @@ struct WindowInfo {
     bool operator==(const WindowInfo&) const = default;
 };
 
+// Whether two rectangles, perhaps rounded on their ways, are the place of one window: windows have no other name that
+// all services know.
+inline bool isSamePlace(const AxRect& a, const AxRect& b)
+{
+    constexpr double tolerance = 2.0; // points
+    return nearlyEqual(a, b, tolerance);
+}
+
 } // namespace quorvel

@@ -21,6 +21,7 @@ namespace keys {
 inline constexpr KeyCode b = 11;
 inline constexpr KeyCode c = 8;
 inline constexpr KeyCode d = 2;
+inline constexpr KeyCode m = 46;
 inline constexpr KeyCode o = 31;
 inline constexpr KeyCode digit1 = 18;
 inline constexpr KeyCode digit3 = 20;

@@ -37,10 +37,10 @@ TEST(CycledWindows, AWindowOfUnknownPlaceIsNotListed)
 TEST(CycledWindows, StepsGoRoundBothEnds)
 {
     CycledWindows windows({a, b, c}, a.bounds);
-    windows.stepBackwards();
+    windows.step(CycleDirection::backwards);
     EXPECT_EQ(windows.currentIndex(), 2U);
-    windows.stepForwards();
-    windows.stepForwards();
+    windows.step(CycleDirection::forwards);
+    windows.step(CycleDirection::forwards);
     EXPECT_EQ(windows.currentIndex(), 1U);
     EXPECT_EQ(windows.ownEntry(), 0U);
 }

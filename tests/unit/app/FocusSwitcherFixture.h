@@ -10,7 +10,6 @@
 namespace quorvel {
 
 namespace keys {
-inline constexpr KeyCode m = 46;
 inline constexpr KeyCode q = 12;
 } // namespace keys
 

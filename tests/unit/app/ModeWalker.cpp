@@ -1,7 +1,9 @@
 #include "tests/unit/app/ModeWalker.h"
 
 #include <array>
+#include <set>
 #include <string_view>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -103,12 +105,12 @@ std::optional<std::string> ModeWalker::walk(const std::vector<WalkStep>& steps)
         desktop.drain();
         desktop.log.clear();
         count();
-        if (auto found = problem()) {
+        if (auto found = step.kind == WalkStep::Kind::exit ? problemAfterExit() : problem()) {
             return found;
         }
     }
     leave();
-    return problem();
+    return problemAfterExit();
 }
 
 void ModeWalker::take(const WalkStep& step)
@@ -197,6 +199,7 @@ void ModeWalker::togglePreferences()
         desktop.preferencesUi.closeWindows();
     } else {
         controller().openPreferences();
+        isReleased = true;
     }
 }
 
@@ -259,10 +262,13 @@ void ModeWalker::leave()
     ++counted.exits;
 }
 
-bool ModeWalker::isAnyModeOn()
+ModeWalker::Mode ModeWalker::modeOn()
 {
-    return controller().modeState().moveResizeElement ||
-           controller().stateManager().currentState == StateManager::States::overlayOn;
+    if (controller().modeState().moveResizeElement) {
+        return Mode::moving;
+    }
+    const bool isLabelling = controller().stateManager().currentState == StateManager::States::overlayOn;
+    return isLabelling ? Mode::labelling : Mode::none;
 }
 
 void ModeWalker::count()
@@ -280,12 +286,14 @@ void ModeWalker::count()
 std::optional<std::string> ModeWalker::problem()
 {
     const auto& modes = controller().modeState();
-    const bool isSwitching = modes.focusSwitcherMouseMonitor.isActive();
     if (modes.moveResizeElement && controller().stateManager().currentState == StateManager::States::overlayOn) {
         return "two modes are on";
     }
-    if (isAnyModeOn()) {
-        return std::nullopt;
+    const auto mode = modeOn();
+    const bool isSameMode = mode == std::exchange(earlierMode, mode);
+    isReleased = isReleased && isSameMode;
+    if (mode != Mode::none) {
+        return problemOf(mode);
     }
     if (!app.blocker().blockedKeyCodes().empty()) {
         return "keys are blocked without a mode";
@@ -293,11 +301,33 @@ std::optional<std::string> ModeWalker::problem()
     if (!desktop.overlayWindows.visible().empty()) {
         return fmt::format("{} windows are up without a mode", desktop.overlayWindows.visible().size());
     }
-    if (isSwitching || !modes.minimizedWindowsPanels.empty() || !modes.allWindowsListPanels.empty() ||
-        modes.isMinimizedPanelVisible || modes.isAllWindowsPanelVisible || modes.eventMonitor.isActive()) {
+    if (modes.focusSwitcherMouseMonitor.isActive() || !modes.minimizedWindowsPanels.empty() ||
+        !modes.allWindowsListPanels.empty() || modes.isMinimizedPanelVisible || modes.isAllWindowsPanelVisible ||
+        modes.eventMonitor.isActive()) {
         return "a mode left something behind";
     }
     return std::nullopt;
+}
+
+// A mode has its keys, all of them and no others.
+std::optional<std::string> ModeWalker::problemOf(Mode mode)
+{
+    constexpr std::size_t allKeys = 256;
+    std::set<KeyCode> keys = app.blocker().blockedKeyCodes();
+    if (isReleased) {
+        return keys.empty() ? std::nullopt : std::optional("keys are blocked beside the preferences");
+    }
+    if (mode == Mode::labelling) {
+        return keys.size() == allKeys ? std::nullopt : std::optional("keys reach others under the labels");
+    }
+    keys.insert(keyCodes::escape); // unless Tab was the exit key when the mode began
+    const bool areThose = keys == std::set<KeyCode>(modeKeys.begin(), modeKeys.end());
+    return areThose ? std::nullopt : std::optional("the move/resize mode has other keys than its own");
+}
+
+std::optional<std::string> ModeWalker::problemAfterExit()
+{
+    return modeOn() != Mode::none ? "a mode is still on after the exit" : problem();
 }
 
 } // namespace quorvel

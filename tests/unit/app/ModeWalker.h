@@ -72,12 +72,16 @@ private:
     void changeSetting(std::uint32_t choice);
     SimulatedWindow* anyWindow(std::uint32_t choice);
 
+    enum class Mode { none, labelling, moving }; // labelling: the overlay or the switcher
+
     void leave();
     void count();
     std::optional<std::string> problem();
+    std::optional<std::string> problemOf(Mode mode);
+    std::optional<std::string> problemAfterExit();
 
     MainController& controller() { return app.mainController(); }
-    bool isAnyModeOn();
+    Mode modeOn();
 
     SimulatedDesktop desktop;
     const Platform platform;
@@ -85,6 +89,8 @@ private:
     std::vector<SimulatedWindow*> windows;
     QuorvelApp app;
     Visits counted;
+    Mode earlierMode = Mode::none; // after the step before
+    bool isReleased = false;       // preferences have been opened while this mode is on, which gives the keys back
 };
 
 } // namespace quorvel

@@ -16,7 +16,6 @@
 namespace quorvel {
 
 namespace keys {
-inline constexpr KeyCode m = 46;
 inline constexpr KeyCode r = 15;
 } // namespace keys
 

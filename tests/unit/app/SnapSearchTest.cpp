@@ -188,6 +188,18 @@ TEST_F(SnapSearchTest, TheScreenIsThatOfTheStepsEnd)
     EXPECT_EQ(press({1290, 100, 300, 300}, ArrowKey::right)->rect.x, 1300);
 }
 
+// After the step half of the window, from 1290 to 1590, is on either screen.
+TEST_F(SnapSearchTest, OnTwoScreensAlikeTheEarlierOneCounts)
+{
+    screens = {fixtures::primary, fixtures::rightSameSize};
+    place({{1600, 100, 400, 400}});
+    EXPECT_EQ(press({1270, 100, 300, 300}, ArrowKey::right), std::nullopt);
+    place({{1300, 100, 100, 400}});
+    EXPECT_EQ(press({1270, 100, 300, 300}, ArrowKey::right)->rect.x, 1300);
+    screens = {fixtures::rightSameSize, fixtures::primary};
+    EXPECT_EQ(press({1270, 100, 300, 300}, ArrowKey::right)->targetEdge.x, 1600);
+}
+
 TEST_F(SnapSearchTest, AScreenAboveIsCountedFromThePrimaryOne)
 {
     screens = {fixtures::primary, fixtures::above};

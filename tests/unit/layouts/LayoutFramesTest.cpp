@@ -50,6 +50,13 @@ TEST(LayoutFrames, CornersInTheWrongOrderGiveNoWidthOrHeight)
     EXPECT_EQ(frameFromRecord(windowRecord({0.0, 1.0, 1.0, 0.5})), (UnitRect{0.0, 1.0, 1.0, 0.0}));
 }
 
+TEST(LayoutFrames, NegativeSizesGiveNoWidthOrHeight)
+{
+    const PropertyDictionary negative{
+        {"x", real(0.8)}, {"y", real(0.5)}, {"width", real(-0.6)}, {"height", integer(-1)}};
+    EXPECT_EQ(frameFromRecord(negative), (UnitRect{0.8, 0.5, 0.0, 0.0}));
+}
+
 TEST(LayoutFrames, CornersMayBeIntegers)
 {
     const PropertyDictionary corners{{"bottom_left_x", integer(0)},
