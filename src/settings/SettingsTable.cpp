@@ -74,7 +74,7 @@ constexpr std::array table{
     shortcut(fsToggleMinimizedModifiers, none, integer(0)),
     shortcut(fsToggleAllWindowsKeyCode, integer(48), integer(48)),
     shortcut(fsToggleAllWindowsModifiers, none, integer(0)),
-    SettingDefinition{fsPopupPosition, SettingType::string, std::string_view("center"), none,
+    SettingDefinition{fsPopupPosition, SettingType::string, std::string_view("center"), std::string_view("center"),
                       std::string_view("center")},
     shortcut(moveResizeKeyCode, integer(15), letterR),
     shortcut(moveResizeModifiers, integer(2304), integer(2304)),
@@ -125,7 +125,7 @@ constexpr std::array table{
     text(wsLabelPosition, "topLeft"),
     boolean(showWindowInfo, true),
     text(fsDefaultDisplayMode, "frames"),
-    SettingDefinition{fsFocusExactWindow, SettingType::boolean, false, none, none}, // the platform has the fallback
+    SettingDefinition{fsFocusExactWindow, SettingType::boolean, none, none, none}, // the platform has the fallback
 
     // Move/resize mode.
     text(mrSelectionColorHex, "#0A84FFCC"),
