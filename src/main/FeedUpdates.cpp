@@ -35,7 +35,7 @@ FeedUpdates::FeedUpdates(const Ports& ports, Report report, std::string address)
     : store(storeFile(), std::move(report)),
       webClient(x11::WebClient::standardFile(), ports.mainQueue),
       feedUpdater({webClient, ports.mainQueue, store, ports.alerts, ports.workspace, ports.dates, std::move(address),
-                   ports.bundle.shortVersion()})
+                   ports.bundle.shortVersion(), "linux"})
 {}
 
 } // namespace quorvel

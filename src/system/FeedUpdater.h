@@ -23,6 +23,7 @@ struct FeedUpdaterEnvironment {
     Dates& dates;
     std::string feedAddress;
     std::string version; // of this program
+    std::string system;  // as feeds name the one that this program runs on
 };
 
 // An updater that reads a feed of versions and leads to the download page of a newer one.

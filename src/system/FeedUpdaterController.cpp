@@ -4,7 +4,6 @@
 
 #include <fmt/format.h>
 
-#include "platform/Alerts.h"
 #include "platform/Dates.h"
 #include "platform/MainQueue.h"
 #include "platform/Workspace.h"
@@ -71,6 +70,9 @@ bool FeedUpdaterController::isDue() const
 
 void FeedUpdaterController::check(Asker who)
 {
+    if (isTelling) {
+        return;
+    }
     if (who == Asker::person) {
         asker = who;
     }
@@ -85,7 +87,7 @@ void FeedUpdaterController::finish(const HttpClient::Answer& answer)
     request.reset();
     const bool isAwaited = std::exchange(asker, Asker::itself) == Asker::person;
     const auto items = answer
-                           ? parseUpdateFeed(*answer)
+                           ? parseUpdateFeed(*answer, environment.system)
                            : std::expected<std::vector<UpdateFeedItem>, std::string>(std::unexpected(answer.error()));
     if (items) {
         Settings(environment.store).setReal(lastCheck, environment.dates.now().secondsSince2001);
@@ -120,7 +122,7 @@ void FeedUpdaterController::offer(const UpdateFeedItem& item)
         addresses.push_back(item.notesLink);
     }
     alert.buttons.emplace_back(addresses.empty() ? "OK" : "Later");
-    const auto button = environment.alerts.runModal(alert);
+    const auto button = show(alert);
     if (button < addresses.size()) {
         environment.workspace.open(addresses[button]);
     }
@@ -128,7 +130,15 @@ void FeedUpdaterController::offer(const UpdateFeedItem& item)
 
 void FeedUpdaterController::tell(std::string message, std::string information)
 {
-    environment.alerts.runModal({AlertStyle::informational, std::move(message), std::move(information), {}, {"OK"}});
+    show({AlertStyle::informational, std::move(message), std::move(information), {}, {"OK"}});
+}
+
+std::size_t FeedUpdaterController::show(const Alert& alert)
+{
+    isTelling = true;
+    const auto button = environment.alerts.runModal(alert);
+    isTelling = false;
+    return button;
 }
 
 } // namespace quorvel

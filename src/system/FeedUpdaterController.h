@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "base/Subscription.h"
 #include "base/WeakGuard.h"
+#include "platform/Alerts.h"
 #include "platform/HttpClient.h"
 #include "platform/Updater.h"
 #include "system/FeedUpdater.h"
@@ -13,7 +15,7 @@ namespace quorvel {
 
 // Reads the feed when it is asked to and, if switched on, once a day, also when the program was not running at that
 // time. Who asked is told whatever comes of it; a check of its own only speaks of a newer version, and one that failed
-// is tried again an hour later.
+// is tried again an hour later. While somebody is being told, nothing is asked.
 class FeedUpdaterController final : public UpdaterController {
 public:
     explicit FeedUpdaterController(const FeedUpdaterEnvironment& environment);
@@ -32,11 +34,13 @@ private:
     void finish(const HttpClient::Answer& answer);
     void offer(const UpdateFeedItem& item);
     void tell(std::string message, std::string information);
+    std::size_t show(const Alert& alert);
 
     const FeedUpdaterEnvironment& environment;
     Subscription clock;
     Subscription request;
     Asker asker = Asker::itself;
+    bool isTelling = false; // an alert is up, under which the main loop goes on
     WeakGuard weakly;
 };
 

@@ -54,6 +54,7 @@ struct OpenItem {
 
 struct Reader {
     XML_Parser parser = nullptr;
+    std::string_view system;
     std::vector<std::string> path; // local names of the open elements
     std::string text;              // of the innermost one
     std::optional<OpenItem> open;
@@ -71,7 +72,7 @@ bool isAt(const Reader& reader, std::initializer_list<std::string_view> path)
     return std::ranges::equal(reader.path, path);
 }
 
-void readEnclosure(OpenItem& open, const XML_Char** attributes)
+void readEnclosure(OpenItem& open, std::string_view system, const XML_Char** attributes)
 {
     for (; *attributes != nullptr; attributes += 2) {
         const std::string_view name = localName(attributes[0]);
@@ -81,7 +82,7 @@ void readEnclosure(OpenItem& open, const XML_Char** attributes)
         } else if (name == "shortVersionString" && open.item.shortVersion.empty()) {
             open.item.shortVersion = presentable(value, longestVersion);
         } else if (name == "os") {
-            (value == "linux" ? open.isForThisSystem : open.isForAnotherSystem) = true;
+            (value == system ? open.isForThisSystem : open.isForAnotherSystem) = true;
         }
     }
 }
@@ -96,7 +97,7 @@ void onStartElement(void* userData, const XML_Char* name, const XML_Char** attri
     } else if (isAt(reader, {"rss", "channel", "item"})) {
         reader.open.emplace();
     } else if (isAt(reader, {"rss", "channel", "item", "enclosure"})) {
-        readEnclosure(*reader.open, attributes);
+        readEnclosure(*reader.open, reader.system, attributes);
     }
 }
 
@@ -159,13 +160,15 @@ void onDeclaration(void* userData, const XML_Char*, const XML_Char*, const XML_C
 
 } // namespace
 
-std::expected<std::vector<UpdateFeedItem>, std::string> parseUpdateFeed(std::string_view document)
+std::expected<std::vector<UpdateFeedItem>, std::string> parseUpdateFeed(std::string_view document,
+                                                                        std::string_view system)
 {
     using Parser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)>;
 
     const Parser parser(XML_ParserCreate(nullptr), &XML_ParserFree);
     Reader reader;
     reader.parser = parser.get();
+    reader.system = system;
     XML_SetUserData(parser.get(), &reader);
     XML_SetElementHandler(parser.get(), onStartElement, onEndElement);
     XML_SetCharacterDataHandler(parser.get(), onText);

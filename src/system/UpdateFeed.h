@@ -23,12 +23,13 @@ struct UpdateFeedItem {
 };
 
 // The items of an appcast (RSS 2.0) that this program may offer, in the order of the document: those that have a
-// version and are meant neither for another system nor for subscribers of a channel. Elements and attributes are known
-// by their names without prefix. The error is the end of a sentence for people.
+// version and are meant neither for another system than `system` nor for subscribers of a channel. Elements and
+// attributes are known by their names without prefix. The error is the end of a sentence for people.
 //
 // The document comes from outside: declarations of entities are refused, and texts that are too long or hold control
 // characters count as absent.
-std::expected<std::vector<UpdateFeedItem>, std::string> parseUpdateFeed(std::string_view document);
+std::expected<std::vector<UpdateFeedItem>, std::string> parseUpdateFeed(std::string_view document,
+                                                                        std::string_view system);
 
 // The item with the highest version, the first of equals; nothing for no items.
 std::optional<UpdateFeedItem> newestItem(std::span<const UpdateFeedItem> items);

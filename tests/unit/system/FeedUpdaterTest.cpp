@@ -54,8 +54,8 @@ protected:
 
     SimulatedDesktop desktop;
     SimulatedUserDefaults store{desktop.journal, desktop.mainQueue};
-    FeedUpdaterEnvironment environment{desktop.httpClient, desktop.mainQueue, store,   desktop.alerts,
-                                       desktop.workspace,  desktop.dates,     address, "1.2"};
+    FeedUpdaterEnvironment environment{desktop.httpClient, desktop.mainQueue, store, desktop.alerts, desktop.workspace,
+                                       desktop.dates,      address,           "1.2", "linux"};
     std::optional<FeedUpdaterController> controller;
 };
 
@@ -214,6 +214,22 @@ TEST_F(FeedUpdaterTest, APersonWhoAsksDuringACheckIsToldItsResult)
     desktop.drain();
     EXPECT_EQ(requests(), 1U);
     EXPECT_THAT(alerts(), SizeIs(1));
+}
+
+TEST_F(FeedUpdaterTest, NothingIsAskedWhileAnAlertIsUp)
+{
+    serve(feedWith("2", "<link>https://example.org/get</link>"));
+    open().setAutomaticallyChecksForUpdates(true);
+    desktop.alerts.choose("Later", [&] {
+        pass(48);
+        controller->checkForUpdates();
+        desktop.drain();
+    });
+    desktop.drain();
+    EXPECT_EQ(requests(), 1U);
+    EXPECT_THAT(alerts(), SizeIs(1));
+    pass(1);
+    EXPECT_THAT(alerts(), SizeIs(2)) << "the day is over, and the alert is answered";
 }
 
 TEST_F(FeedUpdaterTest, AnAnswerAfterTheEndIsDropped)

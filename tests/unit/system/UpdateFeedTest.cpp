@@ -21,14 +21,14 @@ std::string feed(std::string_view items)
            std::string(items) + "</channel></rss>";
 }
 
-std::vector<UpdateFeedItem> itemsOf(std::string_view items)
+std::vector<UpdateFeedItem> itemsOf(std::string_view items, std::string_view system = "linux")
 {
-    return parseUpdateFeed(feed(items)).value();
+    return parseUpdateFeed(feed(items), system).value();
 }
 
 std::string problemOf(std::string_view document)
 {
-    const auto items = parseUpdateFeed(document);
+    const auto items = parseUpdateFeed(document, "linux");
     return items ? "none" : items.error();
 }
 
@@ -65,6 +65,8 @@ TEST(UpdateFeed, ItemsForOthersAreLeftOut)
                 IsEmpty());
     EXPECT_THAT(itemsOf("<item><a:version>3</a:version><enclosure a:os=\"macos\"/><enclosure a:os=\"linux\"/></item>"),
                 SizeIs(1));
+    EXPECT_THAT(itemsOf("<item><a:version>4</a:version><enclosure a:os=\"macos\"/></item>", "macos"), SizeIs(1));
+    EXPECT_THAT(itemsOf("<item><a:version>5</a:version><enclosure a:os=\"linux\"/></item>", "macos"), IsEmpty());
 }
 
 TEST(UpdateFeed, OnlyTheItemsOwnElementsCount)
@@ -140,7 +142,7 @@ TEST(UpdateFeed, EveryCutAndRandomBytesAreSurvived)
     for (int round = 0; round < 2000; ++round) {
         std::string changed = whole;
         changed[random() % changed.size()] = static_cast<char>(random());
-        static_cast<void>(parseUpdateFeed(changed));
+        static_cast<void>(parseUpdateFeed(changed, "linux"));
     }
 }
 
