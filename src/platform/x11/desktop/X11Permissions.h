@@ -6,8 +6,9 @@ namespace quorvel::x11 {
 
 class Connection;
 
-// An X server asks nobody: whoever may connect may also see and move windows. Connections that are forwarded as
-// untrusted are the exception; they lack the input extension.
+// An X server asks nobody: whoever may connect may also see and move windows, and hears of input where the server has
+// the input extension. Connections that are forwarded as untrusted are the exception; they lack nearly every extension,
+// and the program does not start on them.
 class X11Permissions final : public Permissions {
 public:
     explicit X11Permissions(const Connection& connection) : connection(connection) {}
