@@ -1,7 +1,5 @@
 #include "preferences/StartupLaunchManager.h"
 
-#include "platform/LoginItem.h"
-
 namespace quorvel {
 
 StartupLaunchManager::StartupLaunchManager(LoginItem* loginItem, Settings settings)
@@ -33,10 +31,13 @@ void StartupLaunchManager::enable()
 {
     const auto registration = loginItem->registerItem();
     if (registration) {
+        refusal.clear();
         readStatus();
     } else {
+        refusal = registration.error();
+        statusAtRefusal = loginItem->status();
         enabled = false;
-        reason = registration.error();
+        reason = refusal;
     }
     settings.setBoolean(userDefaultsKey, registration.has_value());
 }
@@ -45,6 +46,7 @@ void StartupLaunchManager::disable()
 {
     static_cast<void>(loginItem->unregisterItem()); // the next reading of the status tells what came of it
     enabled = false;
+    refusal.clear();
     reason.clear();
     settings.setBoolean(userDefaultsKey, false);
 }
@@ -53,7 +55,11 @@ void StartupLaunchManager::readStatus()
 {
     const auto status = loginItem != nullptr ? loginItem->status() : LoginItemStatus::notRegistered;
     enabled = status == LoginItemStatus::enabled;
-    reason = status == LoginItemStatus::requiresApproval ? "Approve Quorvel in the system’s list of login items." : "";
+    if (enabled || status != statusAtRefusal) {
+        refusal.clear();
+    }
+    reason =
+        status == LoginItemStatus::requiresApproval ? "Approve Quorvel in the system’s list of login items." : refusal;
 }
 
 } // namespace quorvel

@@ -4,12 +4,11 @@
 #include <string_view>
 
 #include "base/Signal.h"
+#include "platform/LoginItem.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
 
 namespace quorvel {
-
-class LoginItem;
 
 // Whether the program starts at login: what the session says counts, the setting only mirrors the last request.
 class StartupLaunchManager {
@@ -42,6 +41,8 @@ private:
     Settings settings;
     bool enabled = false;
     std::string reason;
+    std::string refusal; // of the last request, as long as the status stays what it was then
+    LoginItemStatus statusAtRefusal = LoginItemStatus::notRegistered;
     Signal<> stateChanged;
 };
 

@@ -82,6 +82,21 @@ TEST_F(StartupLaunchManagerTest, SwitchingItOffTakesARefusalBack)
     EXPECT_EQ(login.explanation(), "");
 }
 
+TEST_F(StartupLaunchManagerTest, ARefusalStaysUntilTheSessionsStateChanges)
+{
+    auto login = manager();
+    desktop.loginItem.refuse("The session is managed.");
+    login.setEnabled(true);
+    login.refresh();
+    EXPECT_EQ(login.explanation(), "The session is managed.");
+    desktop.loginItem.setStatus(LoginItemStatus::notFound);
+    login.refresh();
+    EXPECT_EQ(login.explanation(), "");
+    desktop.loginItem.setStatus(LoginItemStatus::notRegistered);
+    login.refresh();
+    EXPECT_EQ(login.explanation(), "");
+}
+
 TEST_F(StartupLaunchManagerTest, WhatTheSessionChangedShowsAfterARefresh)
 {
     auto login = manager();
