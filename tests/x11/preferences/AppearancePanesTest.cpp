@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QLineEdit>
 #include <QSlider>
 #include <QSpinBox>
 #include <cstdint>
@@ -106,6 +105,24 @@ TEST_P(AppearancePanes, ACancelledThemeIsNotSavedAndANamelessOneIsUntitled)
         EXPECT_EQ(themes(), "");
         saveTheme({});
         waitForThemes("the theme", [](const auto& text) { return text.find("\"name\":\"Untitled\"") != text.npos; });
+    });
+}
+
+TEST_P(AppearancePanes, AButtonThatIsPressedAgainBeforeItsWindowHasGoneCountsOnce)
+{
+    inPane(pane().title, [&] {
+        person.click("Save Current Theme");
+        person.waitForWindow("Save as theme");
+        session.ask([] {
+            auto* const save = qobject_cast<QAbstractButton*>(ShellPerson::control("Save"));
+            save->click();
+            save->click();
+            return true;
+        });
+        person.waitForWindow("Preferences");
+        const auto text = themes();
+        EXPECT_NE(text.find("\"name\""), text.npos);
+        EXPECT_EQ(text.find("\"name\""), text.rfind("\"name\""));
     });
 }
 
@@ -263,27 +280,19 @@ TEST_F(AppearanceControls, TheTogglesOfMovingAndResizingStoreTheirState)
     });
 }
 
-TEST_F(AppearanceControls, AColourIsChosenInItsDialogAndTakenBackByEscape)
+TEST_F(AppearanceControls, AStepperShowsANumberBeyondItsEndsAndCountsFromTheNearerOne)
 {
-    inPane("Layout Appearance", [&] {
-        person.click("Text, Text color");
-        person.waitForWindow("Text, Text color");
-        session.ask([] {
-            for (auto* const field : QApplication::activeWindow()->findChildren<QLineEdit*>()) {
-                if (qobject_cast<QSpinBox*>(field->parent()) == nullptr) { // the one for the colour in HTML's notation
-                    field->setFocus();
-                    field->setSelection(1, field->maxLength());
-                }
-            }
-            return true;
-        });
-        for (const auto key : {XKB_KEY_0, XKB_KEY_a, XKB_KEY_0, XKB_KEY_b, XKB_KEY_0, XKB_KEY_c}) {
-            person.tap(static_cast<xcb_keysym_t>(key));
-        }
-        waitUntilStored("textColor", {std::string("#0A0B0CFF")});
-        person.tap(XKB_KEY_Return);
-        person.waitForWindow("Preferences");
-        EXPECT_EQ(stored("textColor"), PropertyValue{std::string("#0A0B0CFF")});
+    changeFromOutside("mrCornerRadius", whole(60));
+    inPane("Move/Resize Appearance", [&] {
+        const auto shownNumber = [] {
+            const auto* const box = qobject_cast<QSpinBox*>(ShellPerson::control("Corner Radius, Radius (px)"));
+            return box != nullptr ? box->text() : QString();
+        };
+        session.waitFor("the number", [&] { return shownNumber() == "60"; });
+        person.focus("Corner Radius, Radius (px)");
+        person.tap(XKB_KEY_Down);
+        waitUntilStored("mrCornerRadius", whole(49));
+        session.waitFor("the next number", [&] { return shownNumber() == "49"; });
     });
 }
 

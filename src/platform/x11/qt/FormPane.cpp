@@ -261,7 +261,17 @@ void FormPane::showForm(const Form& form)
 
 void FormPane::showOverlays(const Form& form)
 {
-    const auto press = [this](const std::string& id) { model.press(id); };
+    // Keys and clicks may come faster than what is shown follows the model.
+    const auto press = [this](const std::string& id) {
+        if (hasOverlayControl(model.form(), id)) {
+            model.press(id);
+        }
+    };
+    const auto setText = [this](const std::string& id, const std::string& value) {
+        if (hasOverlayControl(model.form(), id)) {
+            model.set(id, value);
+        }
+    };
     if (!form.sheet) {
         delete sheet;
     } else if (sheet) {
@@ -276,9 +286,7 @@ void FormPane::showOverlays(const Form& form)
     } else if (!alert || !alert->isFor(*form.alert)) {
         delete alert;
         QWidget* const owner = sheet ? static_cast<QWidget*>(sheet) : window();
-        alert = new PaneAlertDialog(
-            *form.alert, press, [this](const std::string& id, const std::string& value) { model.set(id, value); },
-            owner);
+        alert = new PaneAlertDialog(*form.alert, press, setText, owner);
         alert->open();
     }
 }

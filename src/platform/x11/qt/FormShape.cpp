@@ -111,4 +111,16 @@ std::vector<std::vector<std::size_t>> groupColumns(const Form& form, Columns col
     return tallest(form, filled) < tallest(form, inOrder) ? filled : inOrder;
 }
 
+bool hasOverlayControl(const Form& form, std::string_view id)
+{
+    const auto has = [id](const std::vector<PaneButton>& buttons) {
+        return std::ranges::find(buttons, id, &PaneButton::id) != buttons.end();
+    };
+    const bool isOfAlert =
+        form.alert && (has(form.alert->buttons) || (form.alert->field && form.alert->field->id == id));
+    const bool isOfSheet = form.sheet && (form.sheet->close.id == id ||
+                                          std::ranges::any_of(form.sheet->rows, has, &ListSheetRow::buttons));
+    return isOfAlert || isOfSheet;
+}
+
 } // namespace quorvel::x11

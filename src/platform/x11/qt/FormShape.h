@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
 #include "platform/Form.h"
@@ -18,5 +19,8 @@ enum class Columns { one, several };
 // The groups without previews, as indexes, column by column: one column, or, if there may be several, two of about the
 // same height where one would be long.
 std::vector<std::vector<std::size_t>> groupColumns(const Form& form, Columns columns);
+
+// Whether the sheet or the alert over the form has a button, or the alert a text field, of that id.
+bool hasOverlayControl(const Form& form, std::string_view id);
 
 } // namespace quorvel::x11

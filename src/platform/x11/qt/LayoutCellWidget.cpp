@@ -19,13 +19,14 @@ namespace {
 
 constexpr int margin = 8;
 
-// The picture with rounded corners, a hairline and a faint shadow.
+// The picture with rounded corners, a hairline and a faint shadow; drawn anew where the window's scale is another one.
 class Thumbnail final : public QWidget {
 public:
-    Thumbnail(QImage image, QWidget* parent) : QWidget(parent), image(std::move(image))
+    Thumbnail(const LayoutCell& cell, const TextLayouts& layouts, QWidget* parent)
+        : QWidget(parent), pictureSize(cell.thumbnailSize), content(cell.thumbnail), layouts(layouts)
     {
         constexpr float shadowAlpha = 0.15F;
-        setFixedSize(this->image.deviceIndependentSize().toSize());
+        setFixedSize(QSizeF(pictureSize.width, pictureSize.height).toSize());
         auto* const shadow = new QGraphicsDropShadowEffect(this);
         shadow->setBlurRadius(1.0);
         shadow->setOffset(0.0);
@@ -43,12 +44,18 @@ protected:
         QPainterPath outline;
         outline.addRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
         painter.setClipPath(outline);
+        if (image.isNull() || image.devicePixelRatio() != devicePixelRatioF()) {
+            image = drawnImage(content, pictureSize, devicePixelRatioF(), layouts);
+        }
         painter.drawImage(0, 0, image);
         painter.setClipping(false);
         painter.strokePath(outline, QPen(separatorColor(palette()), 1.0));
     }
 
 private:
+    Size pictureSize;
+    DrawList content;
+    const TextLayouts& layouts;
     QImage image;
 };
 
@@ -114,8 +121,7 @@ LayoutCellWidget::LayoutCellWidget(const LayoutCell& cell, const TextLayouts& la
     auto* const line = new QHBoxLayout(this);
     line->setContentsMargins(margin, 0, margin, 0);
     line->setSpacing(margin);
-    auto* const thumbnail =
-        new Thumbnail(drawnImage(cell.thumbnail, cell.thumbnailSize, devicePixelRatioF(), layouts), this);
+    auto* const thumbnail = new Thumbnail(cell, layouts, this);
     auto* const name = new ElidedLabel(text(cell.name), this);
     for (QWidget* const passive : {static_cast<QWidget*>(thumbnail), static_cast<QWidget*>(name)}) {
         passive->setAttribute(Qt::WA_TransparentForMouseEvents);

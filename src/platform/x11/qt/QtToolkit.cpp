@@ -110,7 +110,7 @@ std::size_t QtToolkit::runAlert(const Alert& alert, const std::filesystem::path&
     box.setWindowTitle("Quorvel");
     box.setTextFormat(Qt::RichText);
     box.setText("<b>" + text(alert.messageText).toHtmlEscaped() + "</b>");
-    box.setInformativeText(text(alert.informativeText));
+    box.setInformativeText(asMarkup(alert.informativeText));
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     const QIcon picture(text(icon.string()));
     box.setWindowIcon(picture);

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
+#include <QSpinBox>
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -21,8 +22,43 @@ int inRangeOfInt(std::int64_t value)
 
 } // namespace
 
+// Shows the model's text for the model's number: what is stored may lie beyond the range.
+class ShownNumber final : public QSpinBox {
+public:
+    using QSpinBox::QSpinBox;
+
+    void showControl(const StepperControl& control)
+    {
+        const QSignalBlocker quiet(this);
+        number = inRangeOfInt(control.value);
+        numberText = x11::text(control.valueText);
+        setRange(inRangeOfInt(control.minimum), inRangeOfInt(control.maximum));
+        setValue(number);
+    }
+
+protected:
+    QString textFromValue(int value) const override
+    {
+        return value == number && !numberText.isEmpty() ? numberText : QSpinBox::textFromValue(value);
+    }
+
+    int valueFromText(const QString& shown) const override
+    {
+        return shown == numberText ? number : QSpinBox::valueFromText(shown);
+    }
+
+    QValidator::State validate(QString& shown, int& position) const override
+    {
+        return shown == numberText ? QValidator::Acceptable : QSpinBox::validate(shown, position);
+    }
+
+private:
+    int number = 0;
+    QString numberText;
+};
+
 StepperWidget::StepperWidget(const ControlPane& pane, const FormRow& row, QWidget* parent)
-    : FormControlWidget(pane, row, parent), box(new QSpinBox(this))
+    : FormControlWidget(pane, row, parent), box(new ShownNumber(this))
 {
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -35,10 +71,7 @@ StepperWidget::StepperWidget(const ControlPane& pane, const FormRow& row, QWidge
 
 void StepperWidget::showRow(const FormRow& row)
 {
-    const auto& control = std::get<StepperControl>(row.control);
-    const QSignalBlocker quiet(box);
-    box->setRange(inRangeOfInt(control.minimum), inRangeOfInt(control.maximum));
-    box->setValue(inRangeOfInt(control.value));
+    box->showControl(std::get<StepperControl>(row.control));
     box->setAccessibleName(text(row.accessibleName));
     setEnabled(row.isEnabled);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QSpinBox>
-
 #include "platform/x11/qt/controls/FormControlWidget.h"
 
 namespace quorvel::x11 {
+
+class ShownNumber;
 
 // A number with arrows.
 class StepperWidget final : public FormControlWidget {
@@ -14,7 +14,7 @@ public:
     void showRow(const FormRow& row) override;
 
 private:
-    QSpinBox* box;
+    ShownNumber* box;
 };
 
 } // namespace quorvel::x11
