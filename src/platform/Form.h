@@ -13,15 +13,26 @@
 #include "platform/ListSheet.h"
 #include "platform/PaneAlert.h"
 #include "platform/PaneButton.h"
+#include "platform/PropertyValue.h"
 
 namespace quorvel {
 
 // A pane of the preferences as a value: what a shell shows, complete with all texts. A shell builds widgets from it and
 // fills them anew whenever the form's model announces a change (FormModel.h); it neither formats nor checks anything.
 
-// A swatch that opens a colour panel with alpha. Sends a Color.
+// What a setting holds, nothing where it is absent: to be handed back as it came.
+struct StoredValue {
+    std::optional<PropertyValue> value;
+
+    bool operator==(const StoredValue&) const = default;
+};
+
+// A swatch that opens a colour panel with alpha. Sends a Color, or the `stored` that it had when the panel opened, to
+// take back what has been chosen since.
 struct ColorControl {
     Color color;
+    std::string text; // of the colour, for a tooltip and for screen readers
+    StoredValue stored;
 
     bool operator==(const ColorControl&) const = default;
 };
@@ -54,11 +65,8 @@ struct ToggleControl {
     bool operator==(const ToggleControl&) const = default;
 };
 
-enum class PickerStyle { popUp, segmented };
-
 // One of several choices. Sends the index of the chosen one as a std::int64_t.
 struct PickerControl {
-    PickerStyle style = PickerStyle::popUp;
     std::vector<std::string> choices;
     std::optional<std::size_t> selected; // none where the setting is not among the choices
 

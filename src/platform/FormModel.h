@@ -13,7 +13,7 @@
 namespace quorvel {
 
 // What a control sends; the type that each control names (Form.h, PaneAlert.h).
-using ControlValue = std::variant<bool, std::int64_t, double, Color, std::string>;
+using ControlValue = std::variant<bool, std::int64_t, double, Color, std::string, StoredValue>;
 
 // The life behind a form: what its controls do. Main thread only.
 class FormModel {

@@ -27,9 +27,10 @@ struct ControlBuilder {
 
     FormControl operator()(const ColorBinding&) const
     {
-        const auto color = colorFromHex(settings.boundString(key));
+        const auto readable = colorFromHex(settings.boundString(key));
         const auto defaultText = std::get<std::string_view>(settingDefinition(key).paneDefault);
-        return ColorControl{color ? *color : colorFromHex(defaultText).value_or(Color::clear())};
+        const auto color = readable ? *readable : colorFromHex(defaultText).value_or(Color::clear());
+        return ColorControl{.color = color, .text = hexStringFromColor(color), .stored = {settings.object(key)}};
     }
 
     FormControl operator()(const SliderBinding& slider) const
@@ -79,7 +80,11 @@ struct ValueStore {
 
     void operator()(const ColorBinding&) const
     {
-        settings.setString(key, hexStringFromColor(sentValue<Color>(key, value)));
+        if (const auto* const earlier = std::get_if<StoredValue>(&value)) {
+            settings.restore(key, earlier->value);
+        } else {
+            settings.setString(key, hexStringFromColor(sentValue<Color>(key, value)));
+        }
     }
 
     void operator()(const SliderBinding& slider) const

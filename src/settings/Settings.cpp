@@ -162,4 +162,18 @@ void Settings::remove(std::string_view key)
     userDefaults->removeObject(key);
 }
 
+std::optional<PropertyValue> Settings::object(std::string_view key) const
+{
+    return userDefaults->object(key);
+}
+
+void Settings::restore(std::string_view key, std::optional<PropertyValue> value)
+{
+    if (value) {
+        userDefaults->setObject(key, *std::move(value));
+    } else {
+        userDefaults->removeObject(key);
+    }
+}
+
 } // namespace quorvel

@@ -54,6 +54,10 @@ public:
     void setStringDictionary(std::string_view key, const std::map<std::string, std::string>& value);
     void remove(std::string_view key);
 
+    // The value just as it is stored, to put it back as it was, or the key's absence.
+    std::optional<PropertyValue> object(std::string_view key) const;
+    void restore(std::string_view key, std::optional<PropertyValue> value);
+
 private:
     UserDefaults* userDefaults;
 };

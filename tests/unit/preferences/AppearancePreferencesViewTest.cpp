@@ -94,6 +94,30 @@ TEST_F(AppearancePreferencesViewTest, PickingTheShownColorStoresItWithItsAlpha)
     EXPECT_EQ(stored("overlayBorderColor"), PropertyValue{std::string("#FFFF00FF")});
 }
 
+TEST_F(AppearancePreferencesViewTest, AColorThatIsTakenBackLeavesWhatWasStored)
+{
+    for (const auto& before : {PropertyValue{std::string("#FFFF00")}, PropertyValue{std::string("yellowish")},
+                               PropertyValue{std::int64_t{7}}}) {
+        store("textColor", before);
+        const auto earlier = control<ColorControl>("textColor").stored;
+        pane.set("textColor", Color::bytes(1, 2, 3));
+        pane.set("textColor", earlier);
+        EXPECT_EQ(stored("textColor"), before);
+    }
+    const auto absent = control<ColorControl>("overlayBorderColor").stored;
+    pane.set("overlayBorderColor", Color::bytes(1, 2, 3));
+    EXPECT_EQ(stored("overlayBorderColor"), PropertyValue{std::string("#010203FF")});
+    pane.set("overlayBorderColor", absent);
+    EXPECT_EQ(storedKeys(), (std::set<std::string>{"textColor"}));
+}
+
+TEST_F(AppearancePreferencesViewTest, AColorIsWrittenOutWithItsAlphaLast)
+{
+    store("overlayBackgroundColor", "#0A84FFCC");
+    EXPECT_EQ(control<ColorControl>("overlayBackgroundColor").text, "#0A84FFCC");
+    EXPECT_EQ(control<ColorControl>("textColor").text, "#FFFF00FF");
+}
+
 TEST_F(AppearancePreferencesViewTest, AnUnreadableColorShowsAsTheDefaultAndStays)
 {
     store("textColor", "yellowish");

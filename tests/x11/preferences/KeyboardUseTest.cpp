@@ -10,6 +10,9 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+#include <QTimer>
 #include <algorithm>
 #include <iterator>
 #include <optional>
@@ -269,6 +272,28 @@ TEST_F(KeyboardUseTest, WithALargeFontNothingIsCutInTheSmallestWindow)
     }
 }
 
+TEST_F(KeyboardUseTest, AnAlertShowsEveryCharacterOfItsTexts)
+{
+    Alert alert;
+    alert.messageText = "<i>1</i> &lt; 2";
+    alert.informativeText = "Version <b>1</b> &lt; 2\nis there.";
+    alert.buttons = {"OK"};
+    std::vector<std::string> read;
+    QTimer::singleShot(0, [&] {
+        auto* const box = QApplication::activeModalWidget();
+        for (const auto* const label : box->findChildren<QLabel*>()) {
+            const auto text = label->text();
+            const bool isMarkup = label->textFormat() == Qt::RichText ||
+                                  (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(text));
+            read.push_back((isMarkup ? QTextDocumentFragment::fromHtml(text).toPlainText() : text).toStdString());
+        }
+        box->close();
+    });
+    toolkit.runAlert(alert, {});
+    EXPECT_THAT(read, testing::Contains(alert.messageText));
+    EXPECT_THAT(read, testing::Contains(alert.informativeText));
+}
+
 TEST_F(KeyboardUseTest, TheOpenWindowFollowsTheDesktopsColorsAndItsFont)
 {
     const auto isDark = [this] { return window->palette().color(QPalette::Window).lightness() < 128; };
@@ -277,11 +302,16 @@ TEST_F(KeyboardUseTest, TheOpenWindowFollowsTheDesktopsColorsAndItsFont)
     EXPECT_EQ(window->font().pointSizeF(), 9.0);
     EXPECT_FALSE(window->font().bold());
 
+    button("Layout Appearance")->click();
+    open("Text, Text color");
+
     style = {.scheme = ColorScheme::light, .font = "DejaVu Sans Bold 11"};
     styleChanged();
     loop.waitFor("light colours", [&] { return !isDark(); });
     loop.waitFor("the new font", [&] { return window->font().pointSizeF() == 11.0; });
     EXPECT_TRUE(window->font().bold());
+    loop.waitFor("the colour dialog to go with the old rows", [&] { return activeWindow() == window; });
+    EXPECT_FALSE(simulated.userDefaults.contents().contains("textColor"));
 }
 
 } // namespace

@@ -1,8 +1,10 @@
 #include "platform/x11/qt/controls/ColorWidget.h"
 
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <utility>
 
 #include "platform/x11/qt/QtText.h"
 
@@ -78,14 +80,30 @@ ColorWidget::ColorWidget(const ControlPane& pane, const FormRow& row, QWidget* p
     connect(swatch, &QPushButton::clicked, this, [this] { openDialog(); });
 }
 
+ColorWidget::~ColorWidget()
+{
+    dropDialog();
+}
+
 void ColorWidget::showRow(const FormRow& row)
 {
-    color = qtColor(std::get<ColorControl>(row.control).color);
+    const auto& control = std::get<ColorControl>(row.control);
+    color = qtColor(control.color);
+    stored = control.stored;
     swatch->setAccessibleName(text(row.accessibleName));
-    swatch->setAccessibleDescription(color.name(QColor::HexArgb));
-    swatch->setToolTip(color.name(QColor::HexRgb) + QString(", %1 %").arg(qRound(color.alphaF() * 100.0F)));
+    swatch->setAccessibleDescription(text(control.text));
+    swatch->setToolTip(text(control.text));
     swatch->setEnabled(row.isEnabled);
     swatch->update();
+}
+
+// Another tab is chosen, or the window closes; a minimized window keeps its dialogs.
+void ColorWidget::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous()) {
+        dropDialog();
+    }
+    FormControlWidget::hideEvent(event);
 }
 
 void ColorWidget::openDialog()
@@ -95,6 +113,7 @@ void ColorWidget::openDialog()
         dialog->activateWindow();
         return;
     }
+    earlier.reset();
     dialog = new QColorDialog(color, window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setOption(QColorDialog::ShowAlphaChannel);
@@ -103,16 +122,32 @@ void ColorWidget::openDialog()
     for (auto* const button : dialog->findChildren<QPushButton*>()) {
         button->setIcon({}); // as everywhere else in these windows
     }
-    const auto sendColor = [this](const QColor& chosen) {
-        if (chosen.isValid()) {
-            send(Color::bytes(chosen.red(), chosen.green(), chosen.blue(), chosen.alpha()));
-        }
-    };
-    connect(dialog, &QColorDialog::currentColorChanged, this, sendColor);
-    connect(dialog, &QColorDialog::rejected, this, [sendColor, before = color] { sendColor(before); });
-    // With this widget goes the row, and with it what the dialog is about.
-    connect(this, &QObject::destroyed, dialog, &QWidget::close);
+    connect(dialog, &QColorDialog::currentColorChanged, this, [this](const QColor& chosen) { choose(chosen); });
+    connect(dialog, &QColorDialog::rejected, this, [this] { takeBack(); });
     dialog->show();
+}
+
+void ColorWidget::choose(const QColor& chosen)
+{
+    if (chosen.isValid()) {
+        earlier = earlier.value_or(stored);
+        send(Color::bytes(chosen.red(), chosen.green(), chosen.blue(), chosen.alpha()));
+    }
+}
+
+void ColorWidget::takeBack()
+{
+    if (earlier) {
+        send(*std::exchange(earlier, std::nullopt));
+    }
+}
+
+void ColorWidget::dropDialog()
+{
+    if (dialog) {
+        dialog->disconnect(this);
+        delete dialog;
+    }
 }
 
 } // namespace quorvel::x11

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QButtonGroup>
 #include <QComboBox>
 
 #include "platform/x11/qt/controls/FormControlWidget.h"
 
 namespace quorvel::x11 {
 
-// A pop-up list, or one button for each choice side by side.
+// A pop-up list.
 class PickerWidget final : public FormControlWidget {
 public:
     PickerWidget(const ControlPane& pane, const FormRow& row, QWidget* parent);
@@ -15,12 +14,7 @@ public:
     void showRow(const FormRow& row) override;
 
 private:
-    void showPopUp(const PickerControl& control, const QString& name);
-    void showSegments(const PickerControl& control, const QString& name);
-    void sendIndex(int index);
-
-    QComboBox* popUp = nullptr;
-    QButtonGroup* segments = nullptr;
+    QComboBox* popUp;
 };
 
 } // namespace quorvel::x11
