@@ -309,10 +309,20 @@ void ShellPerson::typeDigit(const std::string& row, const std::vector<xcb_keysym
     clickAt(place);
     display.keyboard.tap({Modifier::control}, XKB_KEY_a);
     display.keyboard.tap(XKB_KEY_BackSpace);
+    std::string typed;
     for (const auto key : keys) {
         display.keyboard.tap(key);
+        typed.push_back(static_cast<char>(key)); // which is ASCII for what can be typed here
     }
+    session.waitFor("what is typed", [&] {
+        const auto* const field = digitField(row);
+        return field != nullptr && field->isModified() && field->text().toStdString() == typed;
+    });
     display.keyboard.tap(XKB_KEY_Return);
+    session.waitFor("the end of the editing", [&] {
+        const auto* const field = digitField(row);
+        return field != nullptr && !field->isModified();
+    });
 }
 
 bool ShellPerson::shows(const std::string& name)

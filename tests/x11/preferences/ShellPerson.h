@@ -41,7 +41,7 @@ public:
     void dragRowBefore(const std::string& table, const std::string& row, const std::string& target);
     void dragRowBehind(const std::string& table, const std::string& row, const std::string& target);
 
-    // Types into the digit field of a row.
+    // Types into the digit field of a row, and waits until its editing has ended.
     void typeDigit(const std::string& row, const std::vector<xcb_keysym_t>& keys);
 
     // What there is to see.

@@ -97,6 +97,22 @@ TEST_F(ShortcutsPane, TheKeyOfCode0PassesAndTheRecordingGoesOn)
     });
 }
 
+TEST_F(ShortcutsPane, AModifierAloneAndItsReleaseAreNoShortcut)
+{
+    inPane("Shortcuts", [&] {
+        record(activate);
+        for (const auto modifier : {Modifier::shift, Modifier::command}) {
+            display.keyboard.pressModifier(modifier);
+            display.keyboard.releaseModifier(modifier);
+        }
+        clearAnother();
+        EXPECT_TRUE(person.shows(std::string(activate) + ": Stop"));
+        EXPECT_FALSE(stored("activateOverlayKeyCode"));
+        person.tap(XKB_KEY_s, {Modifier::shift});
+        waitUntilRecorded(activate, "activateOverlay", 1, 0x200);
+    });
+}
+
 TEST_F(ShortcutsPane, StopLeavesTheShortcutAndClearTakesItAway)
 {
     inPane("Shortcuts", [&] {
