@@ -38,7 +38,7 @@ debianPackages() {
 
 brewPackages() {
     case $1 in
-    core) echo cmake ninja pkg-config ccache fmt nlohmann-json googletest ;;
+    core) echo cmake ninja pkgconf ccache fmt nlohmann-json googletest ;;
     app) echo librsvg cmark-gfm ;;
     lint) echo llvm@19 shellcheck ;;
     esac
