@@ -17,6 +17,7 @@ struct MenuItem {
     std::string keyEquivalent; // pressed with Command; empty for none
     MenuCommand command = MenuCommand::terminate;
     bool isEnabled = true;
+    std::string toolTip{}; // shown while the mouse rests on the entry; empty for none
 
     bool operator==(const MenuItem&) const = default;
 };
@@ -26,6 +27,12 @@ using MenuEntry = std::optional<MenuItem>;
 
 struct Menu {
     std::vector<MenuEntry> entries;
+
+    // A line that heads the menu when it opens while another application reads the keyboard alone, which hides keys
+    // from this one.
+    //
+    // X11: no application can do that without everybody's notice; the line is never shown.
+    std::string secureInputNotice{};
 
     bool operator==(const Menu&) const = default;
 };

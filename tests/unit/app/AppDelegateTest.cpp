@@ -283,6 +283,22 @@ TEST_F(AppDelegateTest, EntriesOfWhatABuildLacksAreDisabled)
     EXPECT_TRUE(item(5).isEnabled);
 }
 
+TEST_F(AppDelegateTest, ABuildThatDoesNotUpdateItselfSaysSoInItsMenu)
+{
+    auto ports = desktop.platform();
+    ports.updater = nullptr;
+    QuorvelApp small(ports);
+    small.appDelegate().applicationDidFinishLaunching();
+    EXPECT_EQ(item(1), (MenuItem{"Check for Updates...", "", MenuCommand::checkForUpdates, false,
+                                 "This build does not update itself."}));
+}
+
+TEST_F(AppDelegateTest, TheMenuCanSayThatAnotherApplicationReadsTheKeyboardAlone)
+{
+    launch();
+    EXPECT_EQ(menu().secureInputNotice, "Another application reads the keyboard alone");
+}
+
 TEST_F(AppDelegateTest, ACommandWithoutActionDoesNothing)
 {
     auto ports = desktop.platform();

@@ -40,6 +40,10 @@ void addItem(QMenu& menu, const MenuItem& item, const std::function<void(MenuCom
 {
     auto* const action = menu.addAction(labelText(item.title));
     action->setEnabled(item.isEnabled);
+    if (!item.toolTip.empty()) {
+        action->setToolTip(text(item.toolTip));
+        menu.setToolTipsVisible(true);
+    }
     if (!item.keyEquivalent.empty()) {
         action->setShortcut(QKeySequence("Ctrl+" + text(item.keyEquivalent)));
         action->setShortcutVisibleInContextMenu(true);
