@@ -1,5 +1,7 @@
-// What Quorvel takes the platform's constants to be. It is compiled against Apple's headers and against those that stand
-// in for them, so neither these nor the numbers that settings and ports hold can drift.
+// What Quorvel takes the platform's constants to be. It is compiled against Apple's headers and against those that
+// stand in for them, so neither these nor the numbers that settings and ports hold can drift.
+
+#include <limits>
 
 #import <AppKit/AppKit.h>
 #import <ApplicationServices/ApplicationServices.h>
@@ -60,7 +62,8 @@ static_assert(kCGEventFlagMaskAlternate == eventFlags::option);
 static_assert(kCGEventFlagMaskCommand == eventFlags::command);
 static_assert(kCGEventFlagMaskNumericPad == 0x200000);
 static_assert(kCGEventFlagMaskSecondaryFn == 0x800000);
-static_assert(NSEventModifierFlagDeviceIndependentFlagsMask == eventFlags::deviceIndependentMask);
+static_assert(static_cast<std::uint64_t>(NSEventModifierFlagDeviceIndependentFlagsMask) ==
+              eventFlags::deviceIndependentMask);
 static_assert(cmdKey == hotKeyModifiers::command);
 static_assert(shiftKey == hotKeyModifiers::shift);
 static_assert(optionKey == hotKeyModifiers::option);
@@ -74,14 +77,6 @@ static_assert(kEventHotKeyPressed == 5);
 static_assert(kEventParamDirectObject == 0x2D2D2D2D);
 static_assert(typeEventHotKeyID == 0x686B6964);
 static_assert(kUCKeyActionDown == 0);
-static_assert(kUCKeyTranslateNoDeadKeysMask == 1);
-static_assert(kVK_ANSI_A == keyCodes::a);
-static_assert(kVK_Tab == keyCodes::tab);
-static_assert(kVK_Escape == keyCodes::escape);
-static_assert(kVK_LeftArrow == keyCodes::leftArrow);
-static_assert(kVK_RightArrow == keyCodes::rightArrow);
-static_assert(kVK_DownArrow == keyCodes::downArrow);
-static_assert(kVK_UpArrow == keyCodes::upArrow);
 
 // Permissions and the session
 static_assert(kIOHIDRequestTypeListenEvent == 1);
@@ -90,5 +85,71 @@ static_assert(SMAppServiceStatusNotRegistered == static_cast<int>(LoginItemStatu
 static_assert(SMAppServiceStatusEnabled == static_cast<int>(LoginItemStatus::enabled));
 static_assert(SMAppServiceStatusRequiresApproval == static_cast<int>(LoginItemStatus::requiresApproval));
 static_assert(SMAppServiceStatusNotFound == static_cast<int>(LoginItemStatus::notFound));
+
+// AppKit: events
+static_assert(NSCarriageReturnCharacter == 13);
+static_assert(NSDeleteCharacter == 127);
+static_assert(NSDeleteFunctionKey == 0xF728);
+static_assert(NSDownArrowFunctionKey == 0xF701);
+static_assert(NSEnterCharacter == 3);
+static_assert(NSEventMaskKeyDown == 0x400);
+static_assert(NSEventMaskLeftMouseDown == 0x2);
+static_assert(NSEventMaskOtherMouseDown == 0x2000000);
+static_assert(NSEventMaskRightMouseDown == 0x8);
+static_assert(NSEventModifierFlagCommand == eventFlags::command);
+static_assert(NSEventModifierFlagFunction == 0x800000);
+static_assert(NSEventModifierFlagHelp == 0x400000);
+static_assert(NSEventModifierFlagNumericPad == 0x200000);
+static_assert(NSEventModifierFlagOption == eventFlags::option);
+static_assert(NSModeSwitchFunctionKey == 0xF747);
+static_assert(NSUpArrowFunctionKey == 0xF700);
+
+// AppKit: windows and panels
+static_assert(NSBackingStoreBuffered == 2);
+static_assert(NSWindowAnimationBehaviorNone == 2);
+static_assert(NSWindowDocumentIconButton == 4);
+static_assert(NSWindowStyleMaskClosable == 0x2);
+static_assert(NSWindowStyleMaskFullSizeContentView == 0x8000);
+static_assert(NSWindowStyleMaskTitled == 0x1);
+static_assert(NSWindowToolbarStyleUnified == 3);
+
+// AppKit: controls
+static_assert(NSAlertFirstButtonReturn == 1000);
+static_assert(NSBezelStyleRounded == 1);
+static_assert(NSBoxCustom == 4);
+static_assert(NSBoxSeparator == 2);
+static_assert(NSButtonTypeMomentaryChange == 5);
+static_assert(NSButtonTypeMomentaryPushIn == 7);
+static_assert(NSControlStateValueOff == 0);
+static_assert(NSControlStateValueOn == 1);
+static_assert(NSDragOperationMove == 16);
+static_assert(NSDragOperationNone == 0);
+static_assert(NSImageLeft == 2);
+static_assert(NSImageOnly == 1);
+static_assert(NSImageScaleProportionallyUpOrDown == 3);
+static_assert(NSLineBorder == 1);
+static_assert(NSNoBorder == 0);
+static_assert(NSNoImage == 0);
+static_assert(NSNoTitle == 0);
+static_assert(NSSegmentSwitchTrackingSelectOne == 0);
+static_assert(NSTabViewControllerTabStyleToolbar == 2);
+static_assert(NSTableViewDropAbove == 1);
+static_assert(NSTableViewUniformColumnAutoresizingStyle == 1);
+static_assert(NSViewMaxYMargin == 32);
+static_assert(NSViewMinYMargin == 8);
+static_assert(NSViewWidthSizable == 2);
+
+// AppKit: text and others
+static_assert(NSDateFormatterMediumStyle == 2);
+static_assert(NSDateFormatterNoStyle == 0);
+static_assert(NSLineBreakByTruncatingTail == 4);
+static_assert(NSNotFound == std::numeric_limits<NSInteger>::max());
+static_assert(NSTextAlignmentLeft == 0);
+
+// These have other numbers in GNUstep, and adapters use them by name only.
+#ifndef GNUSTEP
+static_assert(NSTextAlignmentCenter == 1);
+static_assert(NSTextAlignmentRight == 2);
+#endif
 
 } // namespace quorvel
