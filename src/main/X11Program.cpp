@@ -88,7 +88,8 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
       },
       endingSignals(subscribeToEndingSignals()),
       app(platform),
-      settingsWatcher(x11::SettingsFile(x11::SettingsFile::defaultPath()), [this] { settingsMayHaveChanged(); })
+      settingsWatcher(x11::SettingsFile(x11::SettingsFile::defaultPath()), [this] { settingsMayHaveChanged(); }),
+      windowManagerChanges(windows.windowManager.observe([this] { windowManagerHasChanged(); }))
 {
     constexpr int serverLostStatus = 1;
     display.connection->setLostHandler([this] { this->loop.quit(serverLostStatus); });
@@ -131,6 +132,12 @@ x11::ToolkitHost X11Program::toolkitHost()
 void X11Program::settingsMayHaveChanged()
 {
     handleForeignChanges(userDefaults.reload(), userDefaults, notificationCenter, log);
+}
+
+void X11Program::windowManagerHasChanged()
+{
+    const bool isRunning = windows.windowManager.identity() != 0;
+    log.line(isRunning ? "Window manager has started" : "Window manager is gone; windows may stay where they are");
 }
 
 } // namespace quorvel

@@ -11,8 +11,8 @@
 #include "main/X11Display.h"
 #include "platform/LocalNotificationCenter.h"
 #include "platform/Platform.h"
+#include "platform/StandardOutputLog.h"
 #include "platform/x11/GlibMainLoop.h"
-#include "platform/x11/StandardOutputLog.h"
 #include "platform/x11/desktop/DesktopStyles.h"
 #include "platform/x11/desktop/ToolkitModule.h"
 #include "platform/x11/desktop/X11Alerts.h"
@@ -49,12 +49,13 @@ private:
     void quit() { loop.quit(0); }
     std::vector<Subscription> subscribeToEndingSignals();
     void settingsMayHaveChanged();
+    void windowManagerHasChanged();
     x11::ToolkitHost toolkitHost();
 
     x11::GlibMainLoop& loop;
     X11Display display;
 
-    x11::StandardOutputLog log;
+    StandardOutputLog log;
     x11::PlistUserDefaults userDefaults;
     LocalNotificationCenter notificationCenter;
     x11::X11Bundle bundle;
@@ -78,6 +79,7 @@ private:
     std::vector<Subscription> endingSignals; // first, so that a program that is still starting ends in good order, too
     QuorvelApp app;
     x11::SettingsWatcher settingsWatcher;
+    Subscription windowManagerChanges;
 };
 
 } // namespace quorvel

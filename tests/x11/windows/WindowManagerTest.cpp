@@ -1,5 +1,7 @@
 #include "platform/x11/windows/WindowManager.h"
 
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "x11/windows/AdapterDisplay.h"
@@ -87,6 +89,21 @@ TEST_F(WindowManagerTest, OneThatIsSeenInTheMiddleOfItsStartIsThereOnceItHasStar
     EXPECT_FALSE(isThere());
     announcer.announceOnItsWindow();
     EXPECT_TRUE(isThere());
+}
+
+TEST_F(WindowManagerTest, ThatItGoesAndThatOneComesIsTold)
+{
+    announcer.begin();
+    announcer.announceOnItsWindow();
+    ASSERT_TRUE(isThere());
+    std::vector<bool> told;
+    const auto observation = manager.observe([&] { told.push_back(manager.identity() != 0); });
+    announcer.announceOnItsWindow(); // which changes nothing
+    announcer.end();
+    desktop.waitFor("the end to be told", [&] { return told == std::vector{false}; });
+    announcer.begin();
+    announcer.announceOnItsWindow();
+    desktop.waitFor("the start to be told", [&] { return told == std::vector{false, true}; });
 }
 
 } // namespace

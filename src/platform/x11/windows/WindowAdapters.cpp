@@ -7,7 +7,7 @@ namespace quorvel::x11 {
 WindowAdapters::WindowAdapters(Connection& connection, MainQueue& mainQueue, X11Workspace::Lifecycle lifecycle)
     : precedence(mainQueue),
       rootProperties(connection),
-      windowManager(connection, rootProperties),
+      windowManager(connection, mainQueue, rootProperties),
       barrier(connection, windowManager),
       windows(connection, rootProperties),
       activation(connection, windows, windowManager),

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/MainQueue.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/Contains.h"
 #include "platform/x11/Properties.h"
@@ -26,16 +27,23 @@ constexpr unsigned moveResizeSourceShift = 12;
 
 } // namespace
 
-WindowManager::WindowManager(Connection& connection, RootProperties& rootProperties)
-    : connection(connection), rootProperties(rootProperties)
+WindowManager::WindowManager(Connection& connection, MainQueue& mainQueue, RootProperties& rootProperties)
+    : connection(connection), mainQueue(mainQueue), rootProperties(rootProperties)
 {
-    subscriptions.push_back(connection.addHandler<xcb_destroy_notify_event_t>(
-        XCB_DESTROY_NOTIFY, [this](const auto& event) { isGone = isGone || event.window == checkWindow; }));
+    subscriptions.push_back(
+        connection.addHandler<xcb_destroy_notify_event_t>(XCB_DESTROY_NOTIFY, [this](const auto& event) {
+            if (event.window == checkWindow) {
+                isGone = true;
+                lookSoon();
+            }
+        }));
     subscriptions.push_back(
         connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
             const bool isOnEitherWindow = event.window == this->connection.root() || event.window == checkWindow;
-            isAnnounced =
-                isAnnounced || (isOnEitherWindow && event.atom == this->connection.atoms().netSupportingWmCheck);
+            if (isOnEitherWindow && event.atom == this->connection.atoms().netSupportingWmCheck) {
+                isAnnounced = true;
+                lookSoon();
+            }
         }));
 }
 
@@ -43,6 +51,29 @@ WindowManager::Identity WindowManager::identity()
 {
     follow();
     return isGone ? 0 : latest;
+}
+
+Subscription WindowManager::observe(std::function<void()> changed)
+{
+    told = identity();
+    return changes.observe(std::move(changed));
+}
+
+// Not at once: the look waits for the server.
+void WindowManager::lookSoon()
+{
+    if (!std::exchange(isLookDue, true)) {
+        mainQueue.async(weakGuard.guard([this] { tellOfChange(); }));
+    }
+}
+
+void WindowManager::tellOfChange()
+{
+    isLookDue = false;
+    const auto present = identity();
+    if (std::exchange(told, present) != present) {
+        changes.emit();
+    }
 }
 
 // A window manager that ended without clearing up leaves its properties behind, but not its window. Its successor may

@@ -2,12 +2,19 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
 #include <xcb/xcb.h>
 
+#include "base/Signal.h"
 #include "base/Subscription.h"
+#include "base/WeakGuard.h"
+
+namespace quorvel {
+class MainQueue;
+}
 
 namespace quorvel::x11 {
 
@@ -18,11 +25,14 @@ class RootProperties;
 // nothing but what the window manager then does.
 class WindowManager {
 public:
-    WindowManager(Connection& connection, RootProperties& rootProperties);
+    WindowManager(Connection& connection, MainQueue& mainQueue, RootProperties& rootProperties);
 
     // A number that no other has, nor the same one started anew; 0 where none runs.
     using Identity = std::uint64_t;
     Identity identity();
+
+    // Tells from the main loop when identity() is no longer what it was: the window manager has gone, or one has come.
+    Subscription observe(std::function<void()> changed);
 
     bool supports(xcb_atom_t feature);
 
@@ -50,16 +60,23 @@ public:
 
 private:
     void follow();
+    void lookSoon();
+    void tellOfChange();
     void send(xcb_window_t window, xcb_atom_t type, const std::array<std::uint32_t, 5>& data);
 
     Connection& connection;
+    MainQueue& mainQueue;
     RootProperties& rootProperties;
     xcb_window_t checkWindow = XCB_NONE;
     bool isGone = true;
     bool isAnnounced = true; // perhaps a different one, since the last look
     Identity latest = 0;
+    Identity told = 0; // what observers know
+    bool isLookDue = false;
+    Signal<> changes;
     Subscription checkWindowSelection;
     std::vector<Subscription> subscriptions;
+    WeakGuard weakGuard;
 };
 
 } // namespace quorvel::x11

@@ -2,7 +2,7 @@
 
 #include "platform/Log.h"
 
-namespace quorvel::x11 {
+namespace quorvel {
 
 // Diagnostic lines on standard output. Each leaves in one write, so that lines of several programs that share a
 // terminal or a journal do not mix. A reader that has gone away is no reason to stop.
@@ -11,4 +11,4 @@ public:
     void line(std::string_view text) override;
 };
 
-} // namespace quorvel::x11
+} // namespace quorvel

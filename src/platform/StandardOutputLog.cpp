@@ -1,9 +1,9 @@
-#include "platform/x11/StandardOutputLog.h"
+#include "platform/StandardOutputLog.h"
 
 #include <cstdio>
 #include <string>
 
-namespace quorvel::x11 {
+namespace quorvel {
 
 void StandardOutputLog::line(std::string_view text)
 {
@@ -13,4 +13,4 @@ void StandardOutputLog::line(std::string_view text)
     std::fflush(stdout);
 }
 
-} // namespace quorvel::x11
+} // namespace quorvel
