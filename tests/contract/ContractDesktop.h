@@ -36,7 +36,7 @@ enum class Capability {
 
 // A desktop with the ports of one platform under test, and the verbs of the person and the other programs on it. It is
 // fresh for every test: one display of at least 1280 by 800 points whose top left corner is the origin, a US keyboard
-// without locks, no other programs, nothing reserved.
+// without locks, no other programs, nothing reserved, every permission given.
 //
 // A verb is over when the desktop itself has done what it says, not when the ports have heard of it; tests wait for
 // the latter with waitUntil(). No verb lets a fixed time pass.
@@ -106,6 +106,9 @@ public:
 
     // The settings as the next run of the program finds them; valid until the next call.
     virtual UserDefaults& reopenedUserDefaults() = 0;
+
+    // What arrives where lines of the log go while `work` runs, in the pieces in which another program reads it.
+    virtual std::vector<std::string> logged(const std::function<void()>& work) = 0;
 
     // Only with Capability::denyPermissions.
     virtual void deny(Permission permission) = 0;

@@ -10,6 +10,8 @@ class Updater;
 
 namespace contract {
 
+enum class AlertAnswer { defaultButton, close };
+
 // What a person does to the windows that this program's shell shows, known by their titles, and to this program in the
 // settings of the session.
 class SessionVerbs {
@@ -24,6 +26,9 @@ public:
     virtual void resize(std::string_view title, const Size& contentSize) = 0;
     virtual void focusShellWindow(std::string_view title) = 0;
     virtual void closeShellWindow(std::string_view title) = 0;
+
+    // Answers the next alert once it is there: presses its default button, or closes it without pressing any.
+    virtual void answerNextAlert(AlertAnswer answer) = 0;
 
     virtual void removeLoginItem() = 0;
 

@@ -23,9 +23,12 @@ std::size_t SimulatedAlerts::runModal(const Alert& alert)
         answer.meanwhile();
     }
     mainQueue.drain();
-    const auto button = std::ranges::find(alert.buttons, answer.button);
+    if (!answer.button) {
+        return 0;
+    }
+    const auto button = std::ranges::find(alert.buttons, *answer.button);
     if (button == alert.buttons.end()) {
-        fatalError("The alert \"" + alert.messageText + "\" has no button \"" + answer.button + "\"");
+        fatalError("The alert \"" + alert.messageText + "\" has no button \"" + *answer.button + "\"");
     }
     return static_cast<std::size_t>(button - alert.buttons.begin());
 }

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,11 +23,14 @@ public:
     // The next alert without an answer gets that button pressed, after `meanwhile` has happened under it.
     void choose(std::string button, std::function<void()> meanwhile = nullptr);
 
+    // The same with its first button, whatever it is called.
+    void chooseDefault() { answers.emplace_back(); }
+
     const std::vector<Alert>& shown() const { return shownAlerts; }
 
 private:
     struct Answer {
-        std::string button;
+        std::optional<std::string> button; // none: the first
         std::function<void()> meanwhile;
     };
 

@@ -10,7 +10,8 @@ SimulatedContractDesktop::~SimulatedContractDesktop() = default;
 
 ContractPorts SimulatedContractDesktop::ports()
 {
-    return {.mainQueue = &desktop.mainQueue,
+    return {.log = &desktop.log,
+            .mainQueue = &desktop.mainQueue,
             .userDefaults = &desktop.userDefaults,
             .notificationCenter = &desktop.notificationCenter,
             .bundle = &desktop.bundle,
@@ -25,7 +26,10 @@ ContractPorts SimulatedContractDesktop::ports()
             .eventMonitors = &desktop.eventMonitors,
             .overlayWindows = &desktop.overlayWindows,
             .textMetrics = &desktop.textMetrics,
+            .systemColors = &desktop.systemColors,
             .statusBar = &desktop.statusBar,
+            .permissions = &desktop.permissions,
+            .alerts = &desktop.alerts,
             .preferencesUi = &desktop.preferencesUi,
             .loginItem = &desktop.loginItem,
             .updater = &desktop.updater,
@@ -183,6 +187,16 @@ void SimulatedContractDesktop::addUnreadableResource(std::string_view name, std:
 UserDefaults& SimulatedContractDesktop::reopenedUserDefaults()
 {
     return desktop.userDefaults;
+}
+
+std::vector<std::string> SimulatedContractDesktop::logged(const std::function<void()>& work)
+{
+    const auto before = desktop.log.lines().size();
+    work();
+    std::vector<std::string> pieces(desktop.log.lines().begin() + static_cast<std::ptrdiff_t>(before),
+                                    desktop.log.lines().end());
+    std::ranges::for_each(pieces, [](std::string& line) { line += '\n'; });
+    return pieces;
 }
 
 void SimulatedContractDesktop::deny(Permission permission)

@@ -39,6 +39,7 @@ public:
     void addResource(std::string_view name, std::string_view extension, std::string_view content) override;
     void addUnreadableResource(std::string_view name, std::string_view extension) override;
     UserDefaults& reopenedUserDefaults() override;
+    std::vector<std::string> logged(const std::function<void()>& work) override;
     void deny(Permission permission) override;
 
 protected:

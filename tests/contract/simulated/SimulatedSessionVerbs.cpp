@@ -57,6 +57,14 @@ void SimulatedSessionVerbs::closeShellWindow(std::string_view title)
     }
 }
 
+// An alert that nobody has an answer for is closed.
+void SimulatedSessionVerbs::answerNextAlert(AlertAnswer answer)
+{
+    if (answer == AlertAnswer::defaultButton) {
+        desktop.alerts.chooseDefault();
+    }
+}
+
 void SimulatedSessionVerbs::removeLoginItem()
 {
     desktop.loginItem.setStatus(LoginItemStatus::notRegistered);

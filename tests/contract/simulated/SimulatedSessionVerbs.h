@@ -17,6 +17,7 @@ public:
     void resize(std::string_view title, const Size& contentSize) override;
     void focusShellWindow(std::string_view title) override;
     void closeShellWindow(std::string_view title) override;
+    void answerNextAlert(AlertAnswer answer) override;
     void removeLoginItem() override;
     Updater& reopenedUpdater() override;
 

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "base/FatalError.h"
+#include "support/CapturedOutput.h"
 #include "support/Patience.h"
 
 namespace quorvel::contract {
@@ -51,15 +52,17 @@ X11ContractDesktop::X11ContractDesktop()
       overlays(*connection, loop.mainLoop(), windows.precedence, windows.screens, *keyboard, *graphics, textLayouts),
       notificationCenter(loop.mainLoop()),
       bundle(resourceDirectories()),
+      systemColors(files.path() / "kdeglobals"),
+      permissions(*connection),
       menus(loop.mainLoop()),
       statusBar(*connection, bundle, menus),
       userDefaults(openUserDefaults()),
-      alerts(bundle, menus),
+      toolkit(x11::ToolkitModule::standardFile(), display.server.display(), toolkitHost()),
+      alerts(bundle, toolkit),
       loginItem({files.path() / "autostart", {}, "/bin/true"}),
       updater(openUpdater()),
-      toolkit(x11::ToolkitModule::standardFile(), display.server.display(), toolkitHost()),
       preferencesUi(toolkit, notificationCenter),
-      session(display.client, files.path() / "autostart", [this] { return openUpdater(); }),
+      session(display, loop.mainLoop(), files.path() / "autostart", [this] { return openUpdater(); }),
       person(display.server, display.keyboard, *keyboard),
       probe(display.server, {})
 {
@@ -70,7 +73,8 @@ X11ContractDesktop::~X11ContractDesktop() = default;
 
 ContractPorts X11ContractDesktop::ports()
 {
-    return {.mainQueue = &loop.mainLoop(),
+    return {.log = &log,
+            .mainQueue = &loop.mainLoop(),
             .userDefaults = userDefaults.get(),
             .notificationCenter = &notificationCenter,
             .bundle = &bundle,
@@ -85,7 +89,10 @@ ContractPorts X11ContractDesktop::ports()
             .eventMonitors = &keys.eventMonitors,
             .overlayWindows = &overlays,
             .textMetrics = &textMetrics,
+            .systemColors = &systemColors,
             .statusBar = &statusBar,
+            .permissions = &permissions,
+            .alerts = &alerts,
             .preferencesUi = &preferencesUi,
             .loginItem = &loginItem,
             .updater = updater.get(),
@@ -325,6 +332,13 @@ std::unique_ptr<Updater> X11ContractDesktop::openUpdater()
 {
     return std::make_unique<ContractUpdater>(ContractUpdater::Ports{loop.mainLoop(), alerts, windows.workspace, dates},
                                              files.path() / "updates.plist");
+}
+
+std::vector<std::string> X11ContractDesktop::logged(const std::function<void()>& work)
+{
+    xtest::CapturedOutput output;
+    work();
+    return output.pieces();
 }
 
 // There are no permissions to take away.

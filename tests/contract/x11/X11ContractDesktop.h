@@ -12,6 +12,7 @@
 #include "contract/x11/ContractUpdater.h"
 #include "contract/x11/X11SessionVerbs.h"
 #include "platform/LocalNotificationCenter.h"
+#include "platform/StandardOutputLog.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/ConnectionSource.h"
 #include "platform/x11/desktop/ToolkitModule.h"
@@ -19,8 +20,10 @@
 #include "platform/x11/desktop/X11Bundle.h"
 #include "platform/x11/desktop/X11Dates.h"
 #include "platform/x11/desktop/X11LoginItem.h"
+#include "platform/x11/desktop/X11Permissions.h"
 #include "platform/x11/desktop/X11PreferencesUi.h"
 #include "platform/x11/desktop/X11StatusBar.h"
+#include "platform/x11/desktop/X11SystemColors.h"
 #include "platform/x11/keys/KeyAdapters.h"
 #include "platform/x11/keys/Keyboard.h"
 #include "platform/x11/overlays/OverlayGraphics.h"
@@ -69,6 +72,7 @@ public:
     void addResource(std::string_view name, std::string_view extension, std::string_view content) override;
     void addUnreadableResource(std::string_view name, std::string_view extension) override;
     UserDefaults& reopenedUserDefaults() override;
+    std::vector<std::string> logged(const std::function<void()>& work) override;
     void deny(Permission permission) override;
 
 private:
@@ -98,14 +102,17 @@ private:
     LocalNotificationCenter notificationCenter;
     x11::X11Bundle bundle;
     x11::X11Dates dates;
+    StandardOutputLog log;
+    x11::X11SystemColors systemColors;
+    x11::X11Permissions permissions;
     ContractMenus menus;
     x11::X11StatusBar statusBar;
     std::unique_ptr<x11::PlistUserDefaults> userDefaults;
     std::unique_ptr<x11::PlistUserDefaults> laterUserDefaults;
+    x11::ToolkitModule toolkit;
     x11::X11Alerts alerts;
     x11::X11LoginItem loginItem;
     std::unique_ptr<Updater> updater;
-    x11::ToolkitModule toolkit;
     x11::X11PreferencesUi preferencesUi;
     X11SessionVerbs session;
 

@@ -1,7 +1,12 @@
 #include "contract/x11/X11SessionVerbs.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
+
+#include <unistd.h>
+
+#include "support/Patience.h"
 
 namespace quorvel::contract {
 
@@ -12,9 +17,12 @@ constexpr std::uint32_t sizeFlags = 3U << 10U | sourceIsPager << 12U;
 
 } // namespace
 
-X11SessionVerbs::X11SessionVerbs(xtest::XClient& client, std::filesystem::path autostartDirectory,
-                                 OpenUpdater openUpdater)
-    : client(client), autostartDirectory(std::move(autostartDirectory)), openUpdater(std::move(openUpdater))
+X11SessionVerbs::X11SessionVerbs(xtest::TestDisplay& display, MainQueue& mainQueue,
+                                 std::filesystem::path autostartDirectory, OpenUpdater openUpdater)
+    : display(display),
+      mainQueue(mainQueue),
+      autostartDirectory(std::move(autostartDirectory)),
+      openUpdater(std::move(openUpdater))
 {}
 
 bool X11SessionVerbs::isShown(std::string_view title)
@@ -43,6 +51,22 @@ void X11SessionVerbs::focusShellWindow(std::string_view title)
 void X11SessionVerbs::closeShellWindow(std::string_view title)
 {
     client.sendToWindowManager(windowTitled(title), "_NET_CLOSE_WINDOW", {XCB_CURRENT_TIME, sourceIsPager, 0, 0, 0});
+}
+
+// Looks again and again, for the toolkit keeps the main loop to itself while the alert is up.
+void X11SessionVerbs::answerNextAlert(AlertAnswer answer)
+{
+    const xcb_keysym_t key = answer == AlertAnswer::defaultButton ? XKB_KEY_Return : XKB_KEY_Escape;
+    const auto activeBefore = client.activeWindow();
+    person = mainQueue.repeat(std::chrono::milliseconds(5), [this, key, activeBefore, deadline = xtest::Deadline()] {
+        const auto active = client.activeWindow();
+        if (active != XCB_WINDOW_NONE && active != activeBefore && client.processOf(active) == getpid()) {
+            display.keyboard.tap(key);
+            person.reset();
+        } else if (deadline.hasPassed()) {
+            display.server.kill(); // ends the toolkit, and with it a test that would wait forever
+        }
+    });
 }
 
 void X11SessionVerbs::removeLoginItem()
