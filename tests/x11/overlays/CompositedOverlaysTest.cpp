@@ -49,6 +49,7 @@ TEST_F(CompositedOverlaysTest, BlendWithWhatIsBehindThem)
     EXPECT_EQ(pixel(300, 120), 0xFF0000U);
     EXPECT_EQ(pixel(100, 120), blue); // outside of the rounded corner
     EXPECT_FALSE(isCut());
+    EXPECT_EQ(depth(shownWindows().at(0)), 32);
 }
 
 TEST_F(CompositedOverlaysTest, HaveNoShadowOfTheCompositors)
@@ -85,6 +86,20 @@ TEST_F(CompositedOverlaysTest, AreCutWhenTheCompositorEnds)
     EXPECT_TRUE(isCut());
     EXPECT_EQ(pixel(300, 120), 0xFF0000U);
     EXPECT_EQ(pixel(275, 255), 0x1C1C1EU);
+}
+
+TEST_F(CompositedOverlaysTest, WithTheFocusKeepItWhenACompositorStarts)
+{
+    const auto panel = windows.createPanel({.contentRect = flipped(somewhere)}, [](const KeyEvent&) {});
+    panel->orderFrontRegardless();
+    panel->makeKey();
+    settle();
+    const auto before = shownWindows();
+    startCompositor();
+    settle();
+    EXPECT_TRUE(panel->isKey());
+    EXPECT_EQ(shownWindows(), before);
+    waitFor("the cover through the panel", [&] { return pixel(300, 270) == blue; });
 }
 
 TEST_F(CompositedOverlaysTest, ThatAreHiddenFollowTheCompositorToo)

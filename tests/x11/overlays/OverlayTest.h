@@ -101,6 +101,14 @@ protected:
         return children;
     }
 
+    int depth(xcb_window_t window)
+    {
+        auto* const client = display.client.connection();
+        const Reply<xcb_get_geometry_reply_t> geometry(
+            xcb_get_geometry_reply(client, xcb_get_geometry(client, window), nullptr));
+        return geometry->depth;
+    }
+
     std::vector<PixelRect> shape(xcb_window_t window, xcb_shape_sk_t kind)
     {
         auto* const client = display.client.connection();

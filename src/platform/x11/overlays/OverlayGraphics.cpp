@@ -16,23 +16,56 @@ namespace quorvel::x11 {
 namespace {
 
 constexpr std::uint8_t alphaDepth = 32;
+constexpr std::uint8_t opaqueDepth = 24;
 
-// A true-colour visual whose pixels are laid out as Pixel is.
-std::optional<xcb_visualid_t> findVisual(const xcb_screen_t& screen)
+// Whether its pixels are laid out as Pixel is, but for the alpha.
+bool isLaidOutLikePixels(const xcb_visualtype_t& visual)
+{
+    return visual._class == XCB_VISUAL_CLASS_TRUE_COLOR && visual.red_mask == 0xFF0000 && visual.green_mask == 0xFF00 &&
+           visual.blue_mask == 0xFF;
+}
+
+template <class Predicate>
+std::optional<xcb_visualid_t> findVisual(const xcb_screen_t& screen, std::uint8_t depth, Predicate isWanted)
 {
     for (auto depths = xcb_screen_allowed_depths_iterator(&screen); depths.rem > 0; xcb_depth_next(&depths)) {
-        if (depths.data->depth != alphaDepth) {
+        if (depths.data->depth != depth) {
             continue;
         }
         for (auto visuals = xcb_depth_visuals_iterator(depths.data); visuals.rem > 0; xcb_visualtype_next(&visuals)) {
-            const auto& visual = *visuals.data;
-            if (visual._class == XCB_VISUAL_CLASS_TRUE_COLOR && visual.red_mask == 0xFF0000 &&
-                visual.green_mask == 0xFF00 && visual.blue_mask == 0xFF) {
-                return visual.visual_id;
+            if (isLaidOutLikePixels(*visuals.data) && isWanted(*visuals.data)) {
+                return visuals.data->visual_id;
             }
         }
     }
     return std::nullopt;
+}
+
+std::optional<xcb_visualid_t> findAlphaVisual(const xcb_screen_t& screen)
+{
+    return findVisual(screen, alphaDepth, [](const auto&) { return true; });
+}
+
+bool fillsWholeWords(xcb_connection_t* connection, std::uint8_t depth)
+{
+    for (auto formats = xcb_setup_pixmap_formats_iterator(xcb_get_setup(connection)); formats.rem > 0;
+         xcb_format_next(&formats)) {
+        if (formats.data->depth == depth) {
+            return formats.data->bits_per_pixel == 8 * sizeof(Pixel);
+        }
+    }
+    return false;
+}
+
+// The root's own, if opaque pixels can be sent to it as they are.
+std::optional<xcb_visualid_t> findOpaqueVisual(const Connection& connection)
+{
+    const auto& screen = connection.screen();
+    if (screen.root_depth != opaqueDepth || !fillsWholeWords(connection.xcb(), opaqueDepth)) {
+        return std::nullopt;
+    }
+    return findVisual(screen, opaqueDepth,
+                      [&](const xcb_visualtype_t& visual) { return visual.visual_id == screen.root_visual; });
 }
 
 bool hasOwnByteOrder(xcb_connection_t* connection)
@@ -52,7 +85,7 @@ xcb_rectangle_t xcbRectangle(const PixelRect& rect)
 
 std::expected<std::unique_ptr<OverlayGraphics>, std::string> OverlayGraphics::create(Connection& connection)
 {
-    const auto visual = findVisual(connection.screen());
+    const auto visual = findAlphaVisual(connection.screen());
     if (!visual || !hasOwnByteOrder(connection.xcb()) || connection.extension(&xcb_shape_id) == nullptr) {
         return std::unexpected("This X display cannot show windows with transparency and shape.");
     }
@@ -61,39 +94,32 @@ std::expected<std::unique_ptr<OverlayGraphics>, std::string> OverlayGraphics::cr
 
 OverlayGraphics::OverlayGraphics(Connection& connection, xcb_visualid_t visual)
     : connection(connection),
-      visual(visual),
-      colormap(xcb_generate_id(connection.xcb())),
-      context(xcb_generate_id(connection.xcb())),
+      blended(connection, alphaDepth, visual),
       maximumRequestBytes(std::size_t{4} * xcb_get_maximum_request_length(connection.xcb())),
       compositorShadow(connection.atom("_COMPTON_SHADOW"))
 {
-    auto* const xcb = connection.xcb();
-    xcb_create_colormap(xcb, XCB_COLORMAP_ALLOC_NONE, colormap, connection.root(), visual);
-    // A graphics context is made for a depth, which some drawable must show.
-    const auto sample = xcb_generate_id(xcb);
-    xcb_create_pixmap(xcb, alphaDepth, sample, connection.root(), 1, 1);
-    const std::uint32_t noExposures = 0;
-    xcb_create_gc(xcb, context, sample, XCB_GC_GRAPHICS_EXPOSURES, &noExposures);
-    xcb_free_pixmap(xcb, sample);
+    if (const auto opaqueVisual = findOpaqueVisual(connection)) {
+        opaque.emplace(connection, opaqueDepth, *opaqueVisual);
+    }
 }
 
-OverlayGraphics::~OverlayGraphics()
+const OverlayFormat& OverlayGraphics::format(Blending blending) const
 {
-    xcb_free_gc(connection.xcb(), context);
-    xcb_free_colormap(connection.xcb(), colormap);
+    return blending == Blending::unavailable && opaque ? *opaque : blended;
 }
 
-xcb_window_t OverlayGraphics::createWindow(const PixelRect& rect)
+xcb_window_t OverlayGraphics::createWindow(const PixelRect& rect, Blending blending)
 {
     const auto window = xcb_generate_id(connection.xcb());
+    const auto& kind = format(blending);
     xcb_create_window_value_list_t values{};
     values.background_pixel = 0;
     values.border_pixel = 0;
     values.override_redirect = 1;
-    values.colormap = colormap;
+    values.colormap = kind.colormap();
     const auto place = xcbRectangle(rect);
-    xcb_create_window_aux(connection.xcb(), alphaDepth, window, connection.root(), place.x, place.y, place.width,
-                          place.height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
+    xcb_create_window_aux(connection.xcb(), kind.depth(), window, connection.root(), place.x, place.y, place.width,
+                          place.height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, kind.visual(),
                           XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_COLORMAP,
                           &values);
     setProperties(window);
@@ -156,16 +182,18 @@ void OverlayGraphics::clear(xcb_window_t window)
     lastRequest = xcb_clear_area(connection.xcb(), 0, window, 0, 0, 0, 0).sequence;
 }
 
-std::uint32_t OverlayGraphics::draw(xcb_window_t window, const PaintPlan& plan)
+std::uint32_t OverlayGraphics::draw(xcb_window_t window, const PaintPlan& plan, Blending blending)
 {
-    drawFills(window, plan.fills);
+    const auto& kind = format(blending);
+    drawFills(window, kind, plan.fills);
     for (const auto& piece : plan.pieces) {
-        drawPiece(window, *plan.picture, piece);
+        drawPiece(window, kind, *plan.picture, piece);
     }
     return lastRequest;
 }
 
-void OverlayGraphics::drawFills(xcb_window_t window, const std::vector<PaintPlan::Fill>& fills)
+void OverlayGraphics::drawFills(xcb_window_t window, const OverlayFormat& format,
+                                const std::vector<PaintPlan::Fill>& fills)
 {
     std::vector<xcb_rectangle_t> rectangles;
     for (auto first = fills.begin(); first != fills.end();) {
@@ -174,8 +202,8 @@ void OverlayGraphics::drawFills(xcb_window_t window, const std::vector<PaintPlan
         rectangles.clear();
         std::transform(first, next, std::back_inserter(rectangles),
                        [](const auto& fill) { return xcbRectangle(fill.rect); });
-        xcb_change_gc(connection.xcb(), context, XCB_GC_FOREGROUND, &first->pixel);
-        lastRequest = xcb_poly_fill_rectangle(connection.xcb(), window, context,
+        xcb_change_gc(connection.xcb(), format.context(), XCB_GC_FOREGROUND, &first->pixel);
+        lastRequest = xcb_poly_fill_rectangle(connection.xcb(), window, format.context(),
                                               static_cast<std::uint32_t>(rectangles.size()), rectangles.data())
                           .sequence;
         first = next;
@@ -183,7 +211,8 @@ void OverlayGraphics::drawFills(xcb_window_t window, const std::vector<PaintPlan
 }
 
 // In as many requests as their greatest length asks for; usually one.
-void OverlayGraphics::drawPiece(xcb_window_t window, const PixelImage& picture, const PaintPlan::Piece& piece)
+void OverlayGraphics::drawPiece(xcb_window_t window, const OverlayFormat& format, const PixelImage& picture,
+                                const PaintPlan::Piece& piece)
 {
     const auto& rect = piece.rect;
     const std::size_t rowBytes = static_cast<std::size_t>(rect.width) * sizeof(Pixel);
@@ -198,10 +227,10 @@ void OverlayGraphics::drawPiece(xcb_window_t window, const PixelImage& picture, 
                     .subspan(static_cast<std::size_t>(piece.pictureX), static_cast<std::size_t>(rect.width));
             pixels.insert(pixels.end(), row.begin(), row.end());
         }
-        lastRequest = xcb_put_image(connection.xcb(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, context,
+        lastRequest = xcb_put_image(connection.xcb(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, format.context(),
                                     static_cast<std::uint16_t>(rect.width), static_cast<std::uint16_t>(rows),
                                     static_cast<std::int16_t>(rect.x), static_cast<std::int16_t>(rect.y + top), 0,
-                                    alphaDepth, static_cast<std::uint32_t>(pixels.size() * sizeof(Pixel)),
+                                    format.depth(), static_cast<std::uint32_t>(pixels.size() * sizeof(Pixel)),
                                     reinterpret_cast<const std::uint8_t*>(pixels.data()))
                           .sequence;
     }

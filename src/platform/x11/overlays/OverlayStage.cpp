@@ -110,15 +110,15 @@ PixelRect OverlayStage::rootRect(const ScreenRect& frame) const
     return {left, top, std::max(coordinate(rect.maxX()) - left, 1), std::max(coordinate(rect.maxY()) - top, 1)};
 }
 
-PaintPlan OverlayStage::plan(const DrawList& content, Size viewSize, PixelSize windowSize)
+PaintPlan OverlayStage::plan(const DrawList& content, Size viewSize, PixelSize windowSize, Blending blending)
 {
     constexpr double scale = 1.0; // a point is a pixel of the root window
     auto list = alignedToPixels(content, viewSize, windowSize, scale);
-    if (blending() == Blending::unavailable) {
+    if (blending == Blending::unavailable) {
         list = withoutBlending(list);
     }
     const auto collapsedList = collapsed(list, windowSize);
-    return paintPlan(pictures.picture(collapsedList, blending()), collapsedList.columns, collapsedList.rows);
+    return paintPlan(pictures.picture(collapsedList, blending), collapsedList.columns, collapsedList.rows);
 }
 
 void OverlayStage::invalidate()

@@ -51,7 +51,7 @@ public:
     PixelRect rootRect(const ScreenRect& frame) const;
 
     // How a window of that size shows what a view of that many points draws.
-    PaintPlan plan(const DrawList& content, Size viewSize, PixelSize windowSize);
+    PaintPlan plan(const DrawList& content, Size viewSize, PixelSize windowSize, Blending blending);
 
     Connection& connection;
     OverlayGraphics& graphics;

@@ -57,12 +57,32 @@ void OverlaySurface::close()
 {
     isShown = false;
     if (xWindow != XCB_WINDOW_NONE) {
-        isMapped = false;
-        stage.stacking.remove(xWindow);
-        stage.dispose(std::exchange(xWindow, XCB_WINDOW_NONE), std::move(events));
-        isCut = false;
-        isPlanDue = true;
+        giveUpWindow();
     }
+}
+
+void OverlaySurface::giveUpWindow()
+{
+    isMapped = false;
+    stage.stacking.remove(xWindow);
+    stage.dispose(std::exchange(xWindow, XCB_WINDOW_NONE), std::move(events));
+    isCut = false;
+    isPlanDue = true;
+}
+
+void OverlaySurface::giveUpUnfitWindow()
+{
+    if (xWindow == XCB_WINDOW_NONE || isWindowKept || windowBlending == stage.blending()) {
+        return;
+    }
+    xcb_unmap_window(stage.connection.xcb(), xWindow);
+    giveUpWindow();
+    isRaiseDue = true;
+}
+
+Blending OverlaySurface::blending() const
+{
+    return windowBlending == Blending::available ? stage.blending() : Blending::unavailable;
 }
 
 void OverlaySurface::scheduleIfShown()
@@ -77,9 +97,10 @@ void OverlaySurface::prepare()
     if (!isShown) {
         return;
     }
+    giveUpUnfitWindow();
     const auto age = place();
     if (std::exchange(isPlanDue, false)) {
-        plan = stage.plan(content, screenFrame.size(), {rootRect.width, rootRect.height});
+        plan = stage.plan(content, screenFrame.size(), {rootRect.width, rootRect.height}, blending());
         isDrawingDue = true;
         cutToPlan();
     }
@@ -95,7 +116,7 @@ void OverlaySurface::show()
     }
     if (!std::exchange(isMapped, true)) {
         xcb_map_window(stage.connection.xcb(), xWindow);
-        drawnAt = stage.graphics.draw(xWindow, plan);
+        drawnAt = stage.graphics.draw(xWindow, plan, windowBlending);
     } else if (isDrawingDue) {
         redraw();
     }
@@ -121,7 +142,8 @@ OverlayStacking::Age OverlaySurface::place()
 
 void OverlaySurface::createWindow()
 {
-    xWindow = stage.graphics.createWindow(rootRect);
+    windowBlending = stage.blending();
+    xWindow = stage.graphics.createWindow(rootRect, windowBlending);
     if (description.ignoresMouseEvents) {
         stage.graphics.ignoreMouse(xWindow);
     }
@@ -130,7 +152,7 @@ void OverlaySurface::createWindow()
 
 void OverlaySurface::cutToPlan()
 {
-    if (stage.blending() == Blending::unavailable) {
+    if (blending() == Blending::unavailable) {
         stage.graphics.cut(xWindow, opaqueRegion(plan));
         isCut = true;
     } else if (std::exchange(isCut, false)) {
@@ -141,7 +163,7 @@ void OverlaySurface::cutToPlan()
 void OverlaySurface::redraw()
 {
     stage.graphics.clear(xWindow);
-    drawnAt = stage.graphics.draw(xWindow, plan);
+    drawnAt = stage.graphics.draw(xWindow, plan, windowBlending);
 }
 
 void OverlaySurface::invalidate()

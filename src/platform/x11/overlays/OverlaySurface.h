@@ -10,6 +10,7 @@
 #include "platform/OverlayWindows.h"
 #include "platform/x11/overlays/OverlayStacking.h"
 #include "platform/x11/painting/PaintPlan.h"
+#include "platform/x11/painting/PictureCache.h"
 
 namespace quorvel::x11 {
 
@@ -38,6 +39,10 @@ public:
     // Additional events that the window's owner wants, from its next showing on.
     void setEventMask(std::uint32_t mask) { ownersEventMask = mask; }
 
+    // Has the window stay the same, which may have the focus, when blending becomes available or unavailable. One that
+    // was made where nothing could blend goes on to look like that.
+    void keepWindow() { isWindowKept = true; }
+
     // For the stage: brings the server up to date, in two steps. All windows are prepared before the first is shown, so
     // that a compositor sees them come at once and paints them together.
     void prepare();
@@ -50,9 +55,12 @@ public:
     void expose(std::uint32_t sequence);
 
 private:
+    Blending blending() const;
     void scheduleIfShown();
     OverlayStacking::Age place();
     void createWindow();
+    void giveUpWindow();
+    void giveUpUnfitWindow();
     void cutToPlan();
     void redraw();
 
@@ -64,6 +72,8 @@ private:
 
     // What the server has and what it still lacks
     xcb_window_t xWindow = XCB_WINDOW_NONE;
+    Blending windowBlending = Blending::unavailable;
+    bool isWindowKept = false;
     PixelRect rootRect;
     PaintPlan plan;
     bool isMapped = false;

@@ -15,6 +15,7 @@ X11OverlayPanel::X11OverlayPanel(OverlayStage& stage, const Keyboard& keyboard, 
       keyboard(keyboard),
       onKeyDown(std::move(onKeyDown))
 {
+    surface.keepWindow();
     surface.setEventMask(XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_FOCUS_CHANGE);
     events.push_back(connection.addHandler<xcb_key_press_event_t>(
         XCB_KEY_PRESS, [this](const xcb_key_press_event_t& event) { handleKeyPress(event); }));
