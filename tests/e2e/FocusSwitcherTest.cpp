@@ -9,11 +9,9 @@
 namespace quorvel::e2e {
 namespace {
 
-using testing::IsEmpty;
-using xtest::PixelRect;
 using xtest::WindowManager;
 
-class FocusSwitcher : public ProgramTest {
+class FocusSwitcherTest : public ProgramTest {
 protected:
     // Shows the switcher and waits until this many windows have their letter.
     void showSwitcher(std::size_t labelCount)
@@ -81,6 +79,8 @@ protected:
         return std::ranges::all_of(managed, [&](xcb_window_t each) { return heightOf(each) <= heightOf(window); });
     }
 };
+
+class FocusSwitcher : public FocusSwitcherTest {};
 
 TEST_F(FocusSwitcher, ALetterGoesToTheVeryWindowItIsOn)
 {
@@ -282,57 +282,38 @@ TEST_F(FocusSwitcher, ThirtyWindowsSomeOfThemTroublesome)
 }
 
 // Under each window manager: letters on the windows, a choice, and minimized windows where it minimizes.
-class FocusSwitcherUnder : public testing::TestWithParam<WindowManager> {
+class FocusSwitcherUnder : public FocusSwitcherTest, public testing::WithParamInterface<WindowManager> {
 protected:
-    std::unique_ptr<xtest::TestWindow> openWindow(const PixelRect& rect)
+    void SetUp() override
     {
-        xtest::TestWindow::Options options;
-        options.rect = rect;
-        auto window = std::make_unique<xtest::TestWindow>(display.server, options);
-        window->map();
-        display.client.activate(window->id());
-        return window;
+        if (!xtest::WindowManagerProcess::isInstalled(GetParam())) {
+            GTEST_SKIP() << nameOf(GetParam()) << " is not installed";
+        }
+        display.windowManager().replaceWith(GetParam());
+        start();
     }
-
-    xtest::TestDisplay display;
-    xtest::TemporaryDirectory configuration;
 };
 
 TEST_P(FocusSwitcherUnder, LettersChooseAndRestoreWindows)
 {
-    if (!xtest::WindowManagerProcess::isInstalled(GetParam())) {
-        GTEST_SKIP() << nameOf(GetParam()) << " is not installed";
-    }
-    display.startWindowManager(GetParam());
-    RunningQuorvel quorvel(display, QUORVEL_PROGRAM, configuration);
     const auto back = openWindow({100, 150, 400, 300});
     const auto front = openWindow({600, 250, 400, 300});
-    const auto waitUntilActive = [&](xcb_window_t window) {
-        display.client.waitFor("the chosen window to become active",
-                               [&] { return display.client.activeWindow() == window; });
-        quorvel.waitUntilIdle();
-    };
-    quorvel.pressSwitcherHotKey();
-    quorvel.waitForOverlayWindows(4);
-    EXPECT_THAT(quorvel.overlayRects(), testing::Contains(display.client.outerRect(back->id())));
+    showSwitcher(2);
+    EXPECT_THAT(quorvel->overlayRects(), testing::Contains(display.client.outerRect(back->id())));
     display.keyboard.tap(XKB_KEY_b);
     waitUntilActive(back->id());
 
     const bool minimizes = GetParam() != WindowManager::i3;
     if (minimizes) {
-        front->iconify();
-        display.client.waitFor("a window to be minimized",
-                               [&] { return display.client.hasState(front->id(), "_NET_WM_STATE_HIDDEN"); });
-        quorvel.pressSwitcherHotKey();
-        quorvel.waitForOverlayWindows(2);
+        minimize(*front);
+        showSwitcher(1);
         display.keyboard.tap(XKB_KEY_m);
-        quorvel.waitForOverlayWindows(3);
+        quorvel->waitForOverlayWindows(3);
         display.keyboard.tap(XKB_KEY_b);
         waitUntilActive(front->id());
-        EXPECT_FALSE(display.client.hasState(front->id(), "_NET_WM_STATE_HIDDEN"));
+        EXPECT_FALSE(isMinimized(front->id()));
     }
-    EXPECT_EQ(quorvel.end(), 0);
-    EXPECT_THAT(quorvel.program().errorLines(), IsEmpty());
+    endCleanly();
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, FocusSwitcherUnder, testing::ValuesIn(xtest::allWindowManagers()),

@@ -14,12 +14,6 @@ using Modifier = xtest::KeyInjector::Modifier;
 constexpr std::array modeKeys{XKB_KEY_Left, XKB_KEY_Right,  XKB_KEY_Up, XKB_KEY_Down,
                               XKB_KEY_Tab,  XKB_KEY_Escape, XKB_KEY_m};
 
-bool isNear(const PixelRect& a, const PixelRect& b)
-{
-    const auto within = [](int value, int expected) { return std::abs(value - expected) <= 1; };
-    return within(a.x, b.x) && within(a.y, b.y) && within(a.width, b.width) && within(a.height, b.height);
-}
-
 class MoveResizeTest : public ProgramTest {
 protected:
     void enter(xcb_window_t window)
@@ -79,6 +73,19 @@ protected:
         for (const auto& key : freeBefore) {
             display.grabs.waitUntilFree(key);
         }
+    }
+
+    // Presses a key that the window manager will refuse; the frame goes ahead and comes back.
+    void expectKeyIsRefused(const std::vector<Modifier>& modifiers, xcb_keysym_t key, xcb_window_t window,
+                            const PixelRect& ahead)
+    {
+        const auto before = rectOf(window);
+        display.windowManager().hold();
+        display.keyboard.tap(modifiers, key);
+        display.client.waitFor("the frame to go ahead", [&] { return isShown(ahead); });
+        display.windowManager().goOn();
+        display.client.waitFor("the frame to come back", [&] { return isShown(before) && !isShown(ahead); });
+        EXPECT_EQ(rectOf(window), before);
     }
 
     static PixelRect moved(PixelRect rect, int x, int y) { return {rect.x + x, rect.y + y, rect.width, rect.height}; }
@@ -252,9 +259,60 @@ TEST_F(MoveResizeJourney, TheFrameFollowsAWindowThatMovesByItself)
     const auto window = openWindow();
     enter(window->id());
     const auto before = rectOf(window->id());
+    window->moveItself(640, 420);
+    display.client.waitFor("the window to be elsewhere", [&] {
+        const auto now = rectOf(window->id());
+        return now.x != before.x && now.y != before.y;
+    });
+    waitUntilFramed(window->id());
+    EXPECT_FALSE(isShown(before));
+    leave();
+    endCleanly();
+}
+
+TEST_F(MoveResizeJourney, TheFrameFollowsAWindowThatChangesItsSizeByItself)
+{
+    start();
+    const auto window = openWindow();
+    enter(window->id());
+    const auto before = rectOf(window->id());
     window->resizeItself(500, 350);
     display.client.waitFor("the window to be resized", [&] { return rectOf(window->id()) != before; });
     waitUntilFramed(window->id());
+    leave();
+    endCleanly();
+}
+
+TEST_F(MoveResizeJourney, TheFrameStaysOnAWindowOfFixedSize)
+{
+    start();
+    xtest::TestWindow window(display.server, {.rect = {200, 150, 400, 300}, .sizeLimits = {400, 300, 400, 300}});
+    window.map();
+    display.client.activate(window.id());
+    enter(window.id());
+    const auto rect = rectOf(window.id());
+    for (int press = 0; press < 3; ++press) {
+        expectKeyIsRefused({Modifier::shift}, XKB_KEY_Right, window.id(), grown(rect, 20, 0));
+    }
+    expectKeyLeadsTo({}, XKB_KEY_Right, window.id(), moved(rect, 20, 0));
+    leave();
+    endCleanly();
+}
+
+TEST_F(MoveResizeJourney, TheFrameStaysOnATiledWindow)
+{
+    if (!xtest::WindowManagerProcess::isInstalled(WindowManager::i3)) {
+        GTEST_SKIP() << "i3 is not installed";
+    }
+    display.windowManager().replaceWith(WindowManager::i3);
+    start();
+    xtest::TestWindow window(display.server, {.className = "Tiled"});
+    window.map();
+    display.client.activate(window.id());
+    enter(window.id());
+    const auto rect = rectOf(window.id());
+    expectKeyIsRefused({}, XKB_KEY_Right, window.id(), moved(rect, 20, 0));
+    expectKeyIsRefused({}, XKB_KEY_Down, window.id(), moved(rect, 0, 20));
     leave();
     endCleanly();
 }

@@ -21,12 +21,6 @@ bool within(int value, int expected, int tolerance)
     return std::abs(value - expected) <= tolerance;
 }
 
-// Fractions of a pixel may go either way.
-bool nearly(const PixelRect& a, const PixelRect& b)
-{
-    return within(a.x, b.x, 1) && within(a.y, b.y, 1) && within(a.width, b.width, 1) && within(a.height, b.height, 1);
-}
-
 PixelRect clearOfNeighbours(const PixelRect& rect)
 {
     return {rect.x + 1, rect.y + 1, rect.width - 2, rect.height - 2};
@@ -98,7 +92,7 @@ bool RunningQuorvel::showsExactly(const UnitFrames& frames, const PixelRect& are
     const auto shown = overlayRects();
     const bool allThere = std::ranges::all_of(frames, [&](const UnitFrame& frame) {
         const auto expected = clearOfNeighbours(frame.within(area));
-        return std::ranges::any_of(shown, [&](const PixelRect& rect) { return nearly(rect, expected); });
+        return std::ranges::any_of(shown, [&](const PixelRect& rect) { return isNear(rect, expected); });
     });
     return allThere && shown.size() <= frames.size() + 1;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <ostream>
 
 #include <fmt/format.h>
@@ -23,6 +24,13 @@ struct PixelRect {
                 static_cast<double>(height)};
     }
 };
+
+// The same but for fractions of a pixel, which may have gone either way.
+inline bool isNear(const PixelRect& a, const PixelRect& b)
+{
+    const auto within = [](int value, int expected) { return std::abs(value - expected) <= 1; };
+    return within(a.x, b.x) && within(a.y, b.y) && within(a.width, b.width) && within(a.height, b.height);
+}
 
 inline std::ostream& operator<<(std::ostream& stream, const PixelRect& rect)
 {

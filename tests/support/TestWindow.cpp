@@ -132,6 +132,13 @@ void TestWindow::setState(const std::string& state, bool present)
                         [&] { return connection->hasState(window, state) == present; });
 }
 
+void TestWindow::moveItself(int x, int y)
+{
+    const std::array<std::uint32_t, 2> values{static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y)};
+    xcb_configure_window(connection->connection(), window, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, values.data());
+    connection->sync();
+}
+
 void TestWindow::resizeItself(int width, int height)
 {
     const std::array<std::uint32_t, 2> values{static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height)};

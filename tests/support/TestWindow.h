@@ -50,6 +50,7 @@ public:
 
     void setTitle(const std::string& title);
     void setState(const std::string& state, bool present);
+    void moveItself(int x, int y);
     void resizeItself(int width, int height);
 
     struct Key {

@@ -11,6 +11,7 @@ namespace {
 constexpr auto i3Configuration = R"(# i3 config file (v4)
 font pango:monospace 8
 for_window [class=".*"] floating enable
+for_window [class="Tiled"] floating disable
 )";
 
 constexpr auto kwinConfiguration = R"([Compositing]

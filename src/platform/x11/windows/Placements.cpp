@@ -96,10 +96,12 @@ void Placements::start(xcb_window_t window, Written& written)
 {
     const auto target = wholePixels(written.target);
     const auto previous = running.find(window);
-    if (previous != running.end() && previous->second.placement.hasTarget(target)) {
+    const auto& snapshot = written.snapshot;
+    const bool isUnderWay = previous != running.end() && previous->second.placement.hasTarget(target);
+    // What has been refused is asked for anew, so that whoever wrote it hears of the refusal again.
+    if (isUnderWay && (previous->second.isOpen() || previous->second.placement.isFulfilledBy(snapshot))) {
         return;
     }
-    const auto& snapshot = written.snapshot;
     const auto number = ++lastNumber;
     Running next{Placement(target, knownAnchor()), connection.selectEvents(window, watchedEvents),
                  std::move(written.precedence), number};
