@@ -1,23 +1,17 @@
 #include "platform/x11/settings/PlistUserDefaults.h"
 
-#include <algorithm>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <vector>
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/x11/FileDescriptor.h"
-#include "support/TemporaryDirectory.h"
+#include "tests/unit/x11/SettingsFileFixture.h"
 
 namespace quorvel::x11 {
 namespace {
@@ -28,54 +22,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-const std::string head = "<plist version=\"1.0\"><dict>";
-const std::string tail = "</dict></plist>";
-
-PropertyValue text(std::string value)
-{
-    return PropertyValue{std::move(value)};
-}
-
-PropertyValue integer(std::int64_t value)
-{
-    return PropertyValue{value};
-}
-
-class PlistUserDefaultsTest : public testing::Test {
-protected:
-    PlistUserDefaults open()
-    {
-        return {SettingsFile(path), [this](std::string_view line) { lines.emplace_back(line); }};
-    }
-
-    static std::string contents(const fs::path& file)
-    {
-        std::ostringstream stream;
-        stream << std::ifstream(file).rdbuf();
-        return stream.str();
-    }
-
-    // In place, as some editors do.
-    void write(std::string_view bytes) const
-    {
-        fs::create_directories(path.parent_path());
-        std::ofstream(path, std::ios::trunc) << bytes;
-    }
-
-    std::vector<std::string> namesInDirectory() const
-    {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(path.parent_path())) {
-            names.push_back(entry.path().filename());
-        }
-        std::ranges::sort(names);
-        return names;
-    }
-
-    xtest::TemporaryDirectory directory;
-    fs::path path = directory.path() / "config" / "quorvel" / "settings.plist";
-    std::vector<std::string> lines;
-};
+class PlistUserDefaultsTest : public SettingsFileFixture {};
 
 TEST_F(PlistUserDefaultsTest, WithoutAFileEveryKeyIsAbsentAndNothingIsSaid)
 {
@@ -210,50 +157,6 @@ TEST_F(PlistUserDefaultsTest, ALinkToAFileThatIsNotThereYetIsFollowed)
     EXPECT_TRUE(fs::is_regular_file(directory.path() / "elsewhere" / "q.plist"));
 }
 
-TEST_F(PlistUserDefaultsTest, ALinkThatLeadsInACircleIsLeftAlone)
-{
-    fs::create_directories(path.parent_path());
-    fs::create_symlink("settings.plist", path);
-    auto defaults = open();
-    defaults.setObject("a", integer(1));
-    EXPECT_EQ(defaults.object("a"), integer(1));
-    EXPECT_TRUE(fs::is_symlink(path));
-    EXPECT_THAT(lines, ElementsAre(HasSubstr("cannot be read")));
-}
-
-TEST_F(PlistUserDefaultsTest, ADamagedFileIsMovedAsideWithOneLine)
-{
-    write("not a property list");
-    auto defaults = open();
-    EXPECT_EQ(defaults.object("a"), std::nullopt);
-    EXPECT_FALSE(fs::exists(path));
-    EXPECT_EQ(contents(path.string() + ".damaged-1"), "not a property list");
-    EXPECT_THAT(lines, ElementsAre(testing::AllOf(HasSubstr(path.string()), HasSubstr("damaged-1"))));
-}
-
-TEST_F(PlistUserDefaultsTest, AnEarlierDamagedFileIsNeverOverwritten)
-{
-    write("first");
-    open();
-    write("second");
-    open();
-    EXPECT_EQ(contents(path.string() + ".damaged-1"), "first");
-    EXPECT_EQ(contents(path.string() + ".damaged-2"), "second");
-}
-
-TEST_F(PlistUserDefaultsTest, EveryShortenedFileIsMovedAsideWhole)
-{
-    write(head + "<key>a</key><string>b</string>" + tail);
-    const std::string whole = contents(path);
-    for (std::size_t size = 0; size < whole.size() - 1; size += 5) {
-        write(whole.substr(0, size));
-        open();
-        const fs::path aside = path.string() + ".damaged-1";
-        EXPECT_EQ(contents(aside), whole.substr(0, size));
-        fs::remove(aside);
-    }
-}
-
 TEST_F(PlistUserDefaultsTest, AChangeByAnotherProgramIsTakenOver)
 {
     auto defaults = open();
@@ -307,89 +210,6 @@ TEST_F(PlistUserDefaultsTest, TwoWritersDoNotUndoEachOther)
     EXPECT_EQ(third.object("a"), integer(1));
     EXPECT_EQ(third.object("b"), integer(2));
     EXPECT_EQ(third.object("c"), integer(3));
-}
-
-TEST_F(PlistUserDefaultsTest, AFileThatVanishesLeavesTheValuesAndIsWrittenAgain)
-{
-    auto defaults = open();
-    defaults.setObject("a", integer(1));
-    fs::remove_all(path.parent_path());
-    EXPECT_THAT(defaults.reload(), IsEmpty());
-    EXPECT_EQ(defaults.object("a"), integer(1));
-    defaults.setObject("b", integer(2));
-    EXPECT_EQ(open().object("a"), integer(1));
-}
-
-TEST_F(PlistUserDefaultsTest, AFileDamagedMeanwhileStaysUntilTheNextWriteAndThenGoesAside)
-{
-    auto defaults = open();
-    defaults.setObject("a", integer(1));
-    write("half an edit");
-    EXPECT_THAT(defaults.reload(), IsEmpty());
-    EXPECT_EQ(defaults.object("a"), integer(1));
-    EXPECT_EQ(contents(path), "half an edit");
-    EXPECT_THAT(lines, ElementsAre(HasSubstr("settings in use stay")));
-    defaults.setObject("b", integer(2));
-    EXPECT_EQ(contents(path.string() + ".damaged-1"), "half an edit");
-    EXPECT_EQ(open().object("a"), integer(1));
-    EXPECT_EQ(open().object("b"), integer(2));
-    EXPECT_THAT(lines, ElementsAre(HasSubstr("stay"), HasSubstr("was moved to")));
-}
-
-TEST_F(PlistUserDefaultsTest, WhatIsNotAFileIsLeftAloneAndValuesHoldForThisRun)
-{
-    fs::create_directories(path);
-    auto defaults = open();
-    defaults.setObject("a", integer(1));
-    defaults.setObject("b", integer(2));
-    EXPECT_EQ(defaults.object("a"), integer(1));
-    EXPECT_TRUE(fs::is_directory(path));
-    EXPECT_THAT(lines, ElementsAre(HasSubstr("cannot be read")));
-}
-
-TEST_F(PlistUserDefaultsTest, WhereTheDirectoryCannotBeMadeValuesHoldForThisRun)
-{
-    directory.write("config", "a file where the directory should be");
-    auto defaults = open();
-    defaults.setObject("a", integer(1));
-    EXPECT_EQ(defaults.object("a"), integer(1));
-    EXPECT_THAT(lines, ElementsAre(HasSubstr("cannot be")));
-}
-
-TEST_F(PlistUserDefaultsTest, ValuesThatCouldNotBeWrittenAreWrittenWithTheNextOne)
-{
-    fs::create_directories(path);
-    auto defaults = open();
-    defaults.setObject("a", integer(1));
-    defaults.removeObject("gone");
-    fs::remove(path);
-    write(head + "<key>gone</key><true/><key>kept</key><true/>" + tail);
-    defaults.setObject("b", integer(2));
-    auto again = open();
-    EXPECT_EQ(again.object("a"), integer(1));
-    EXPECT_EQ(again.object("b"), integer(2));
-    EXPECT_EQ(again.object("gone"), std::nullopt);
-    EXPECT_EQ(again.object("kept"), PropertyValue{true});
-}
-
-TEST_F(PlistUserDefaultsTest, AFullDiskLosesNothing)
-{
-    auto defaults = open();
-    defaults.setObject("a", integer(1));
-    const std::string before = contents(path);
-    rlimit old{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &old), 0);
-    const rlimit small{100, old.rlim_max};
-    std::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    defaults.setObject("b", text(std::string(10'000, 'x')));
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &old), 0);
-    EXPECT_EQ(contents(path), before);
-    EXPECT_THAT(namesInDirectory(), ElementsAre("settings.plist"));
-    EXPECT_THAT(lines, ElementsAre(HasSubstr("cannot be written")));
-    EXPECT_EQ(defaults.object("b"), text(std::string(10'000, 'x')));
-    defaults.setObject("c", integer(3));
-    EXPECT_EQ(open().object("b"), text(std::string(10'000, 'x')));
 }
 
 TEST(SettingsFile, TheConfigurationDirectoryIsTheOneOfTheEnvironment)
