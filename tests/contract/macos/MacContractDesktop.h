@@ -4,10 +4,17 @@
 #include "contract/simulated/SimulatedContractDesktop.h"
 #include "macos/fakes/FakeDesktop.h"
 #include "platform/macos/desktop/MacBundle.h"
+#include "platform/macos/desktop/MacDates.h"
 #include "platform/macos/desktop/MacLoginItem.h"
 #include "platform/macos/desktop/MacMainQueue.h"
+#include "platform/macos/desktop/MacNotificationCenter.h"
 #include "platform/macos/desktop/MacScreens.h"
 #include "platform/macos/desktop/MacUpdater.h"
+#include "platform/macos/desktop/MacUserDefaults.h"
+#include "platform/macos/keys/MacEventMonitors.h"
+#include "platform/macos/keys/MacEventTaps.h"
+#include "platform/macos/keys/MacHotKeys.h"
+#include "platform/macos/keys/MacKeyboardLayout.h"
 #include "platform/macos/windows/MacAccessibility.h"
 #include "platform/macos/windows/MacWindowList.h"
 #include "platform/macos/windows/MacWorkspace.h"
@@ -24,6 +31,7 @@ public:
     bool can(Capability capability) const override;
     bool turn() override;
     void settle() override;
+    UserDefaults& reopenedUserDefaults() override;
     void addResource(std::string_view name, std::string_view extension, std::string_view content) override;
     void addUnreadableResource(std::string_view name, std::string_view extension) override;
 
@@ -36,8 +44,16 @@ private:
     macos::MacMainQueue mainQueue;
     macos::MacAccessibility accessibility{mainQueue};
     macos::MacScreens screens;
+    macos::MacDates dates;
+    macos::MacNotificationCenter notificationCenter{mainQueue};
+    macos::MacUserDefaults userDefaults{mainQueue};
+    std::unique_ptr<macos::MacUserDefaults> reopened;
     macos::MacWindowList windowList;
     macos::MacWorkspace workspace{mainQueue};
+    macos::MacHotKeys hotKeys;
+    macos::MacEventTaps eventTaps;
+    macos::MacEventMonitors eventMonitors;
+    macos::MacKeyboardLayout keyboardLayout;
 };
 
 } // namespace quorvel::contract

@@ -23,11 +23,18 @@ MacContractDesktop::~MacContractDesktop() = default;
 ContractPorts MacContractDesktop::ports()
 {
     return {.mainQueue = &mainQueue,
+            .userDefaults = &userDefaults,
+            .notificationCenter = &notificationCenter,
             .bundle = &bundle,
+            .dates = &dates,
             .accessibility = &accessibility,
+            .hotKeys = &hotKeys,
+            .eventTaps = &eventTaps,
             .windowList = &windowList,
             .workspace = &workspace,
             .screens = &screens,
+            .keyboardLayout = &keyboardLayout,
+            .eventMonitors = &eventMonitors,
             .loginItem = &loginItem,
             .updater = updater.get(),
             .session = SimulatedContractDesktop::ports().session};
@@ -66,6 +73,12 @@ void MacContractDesktop::addResource(std::string_view name, std::string_view ext
 void MacContractDesktop::addUnreadableResource(std::string_view name, std::string_view extension)
 {
     bundleFolder.addUnreadableResource(name, extension);
+}
+
+UserDefaults& MacContractDesktop::reopenedUserDefaults()
+{
+    reopened = std::make_unique<macos::MacUserDefaults>(mainQueue);
+    return *reopened;
 }
 
 std::unique_ptr<ContractDesktop> makeContractDesktop()

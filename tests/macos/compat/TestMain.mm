@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "macos/compat/Blocks.h"
+#include "macos/compat/SettingsFolder.h"
 #include "macos/fakes/FakeDesktop.h"
 
 namespace {
@@ -52,6 +53,7 @@ extern "C" const char* __lsan_default_options()
 
 int main(int argumentCount, char** arguments)
 {
+    const SettingsFolder settingsFolder;
     makeBlocksObjects();
     testing::InitGoogleTest(&argumentCount, arguments);
     testing::UnitTest::GetInstance()->listeners().Append(std::make_unique<Bookkeeper>().release());

@@ -37,8 +37,8 @@ AXError status(const QuorvelAxElement* element, const std::expected<T, AxError>&
 bool* enhancedInterfaceOf(const QuorvelAxElement* element)
 {
     auto& known = FakeDesktop::current().enhancedInterfaces;
-    const auto entry = known.find(element->application);
-    return entry != known.end() ? &entry->second : nullptr;
+    const auto entry = known.find(element->process);
+    return element->isApplication && entry != known.end() ? &entry->second : nullptr;
 }
 
 } // namespace
@@ -100,11 +100,9 @@ AXError AXUIElementPerformAction(AXUIElementRef reference, CFStringRef name)
     return status(element, accessibility().performAction(element->element, text(name)));
 }
 
-AXError AXUIElementGetPid(AXUIElementRef reference, pid_t* process)
+AXError AXUIElementGetPid(AXUIElementRef element, pid_t* process)
 {
-    const auto* const element = as<QuorvelAxElement*>(reference);
-    const auto result = accessibility().processId(element->element);
-    *process = result ? FakeDesktop::onSystem(*result) : 0;
-    return status(element, result);
+    *process = FakeDesktop::onSystem(as<QuorvelAxElement*>(element)->process);
+    return kAXErrorSuccess;
 }
 }

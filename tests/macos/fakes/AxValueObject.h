@@ -9,8 +9,9 @@
 @interface QuorvelAxElement : QuorvelFakeObject {
 @public
     quorvel::AxElementRef element;
-    quorvel::ProcessId application; // 0 for a window
-    float timeout;                  // seconds
+    bool isApplication;
+    quorvel::ProcessId process;
+    float timeout; // seconds
 }
 @end
 

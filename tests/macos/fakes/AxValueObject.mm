@@ -1,6 +1,7 @@
 #import "macos/fakes/AxValueObject.h"
 
 #include "macos/fakes/FakeDesktop.h"
+#include "platform/simulated/SimulatedAxElement.h"
 
 using namespace quorvel;
 using fakes::as;
@@ -11,11 +12,23 @@ namespace {
 constexpr CFTypeID elementType = 100;
 constexpr CFTypeID valueType = 101;
 
-QuorvelAxElement* newElement(const AxElementRef& named, ProcessId application)
+// The name tells the process, also when the window is gone.
+ProcessId processOf(const AxElementRef& named)
+{
+    const auto& name = dynamic_cast<const SimulatedAxElement&>(*named);
+    if (name.kind == SimulatedElementKind::application) {
+        return static_cast<ProcessId>(name.id);
+    }
+    const auto* const window = fakes::FakeDesktop::current().desktop.windowServer.window(name.id);
+    return window != nullptr ? window->process() : 0;
+}
+
+QuorvelAxElement* newElement(const AxElementRef& named)
 {
     QuorvelAxElement* const result = [[QuorvelAxElement alloc] init];
     result->element = named;
-    result->application = application;
+    result->isApplication = dynamic_cast<const SimulatedAxElement&>(*named).kind == SimulatedElementKind::application;
+    result->process = processOf(named);
     result->timeout = 6.0F; // the system's own
     return result;
 }
@@ -24,7 +37,7 @@ QuorvelAxElement* newElement(const AxElementRef& named, ProcessId application)
 struct Creation {
     id operator()(bool value) const { return [[NSNumber numberWithBool:value] retain]; }
     id operator()(const std::string& text) const { return [[NSString alloc] initWithUTF8String:text.c_str()]; }
-    id operator()(const AxElementRef& named) const { return newElement(named, 0); }
+    id operator()(const AxElementRef& named) const { return newElement(named); }
 
     id operator()(const AxPoint& point) const
     {
@@ -42,7 +55,7 @@ struct Creation {
     {
         NSMutableArray* const result = [[NSMutableArray alloc] init];
         for (const auto& each : named) {
-            QuorvelAxElement* const member = newElement(each, 0);
+            QuorvelAxElement* const member = newElement(each);
             [result addObject:member];
             [member release];
         }
@@ -137,7 +150,7 @@ AXUIElementRef AXUIElementCreateApplication(pid_t process)
     ownReferences(1);
     const auto onDesktop = fakes::FakeDesktop::onDesktop(process);
     const auto named = fakes::FakeDesktop::current().desktop.accessibility.applicationElement(onDesktop);
-    return reinterpret_cast<AXUIElementRef>(newElement(named, onDesktop));
+    return reinterpret_cast<AXUIElementRef>(newElement(named));
 }
 
 CFTypeID AXValueGetTypeID()

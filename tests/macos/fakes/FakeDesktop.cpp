@@ -22,12 +22,25 @@ FakeDesktop::FakeDesktop(SimulatedDesktop& desktop) : desktop(desktop)
         fatalError("There is a desktop already");
     }
     only = this;
+    desktop.eventTaps.visibility = SimulatedEventTaps::Visibility::everyKey;
 }
 
 FakeDesktop::~FakeDesktop()
 {
     if (runLoopSources > 0) {
         complain("A source is still in the run loop");
+    }
+    if (!desktop.hotKeys.registered().empty()) {
+        complain("A hot key is still registered");
+    }
+    if (desktop.hotKeys.hasHandler()) {
+        complain("The handler of hot keys is still installed");
+    }
+    if (!desktop.eventTaps.taps().empty()) {
+        complain("An event tap is still there");
+    }
+    if (desktop.eventMonitors.keyMonitorCount() + desktop.eventMonitors.mouseMonitorCount() > 0) {
+        complain("An event monitor is still there");
     }
     only = nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,12 @@ public:
     // applications that hang.
     std::map<ProcessId, bool> enhancedInterfaces;
     double secondsWaited = 0.0;
+
+    // Keys: some program keeps them to itself, as while a password is typed; the input method has no table of keys.
+    bool isSecureInputEnabled = false;
+    bool typesByInputMethod = false;
+
+    std::shared_ptr<void> userDefaults; // see UserDefaults.mm
 };
 
 // What a program did wrong: mistakes that the system bears in silence. A test that has some fails.

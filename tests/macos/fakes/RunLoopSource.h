@@ -9,4 +9,7 @@
 
 @property(nonatomic, copy) NSString* mode; // nil while it is in no run loop
 
+// The mode has changed.
+- (void)modeDidChange;
+
 @end

@@ -14,6 +14,9 @@ using namespace quorvel::fakes;
     [super dealloc];
 }
 
+- (void)modeDidChange
+{}
+
 @end
 
 extern "C" {
@@ -29,6 +32,7 @@ void CFRunLoopAddSource(CFRunLoopRef, CFRunLoopSourceRef reference, CFRunLoopMod
     if ([source mode] == nil) {
         [source retain]; // as the run loop does
         [source setMode:as<NSString*>(mode)];
+        [source modeDidChange];
         ++FakeDesktop::current().runLoopSources;
     }
 }
@@ -38,6 +42,7 @@ void CFRunLoopRemoveSource(CFRunLoopRef, CFRunLoopSourceRef reference, CFRunLoop
     QuorvelRunLoopSource* const source = as<QuorvelRunLoopSource*>(reference);
     if ([[source mode] isEqual:as<NSString*>(mode)]) {
         [source setMode:nil];
+        [source modeDidChange];
         --FakeDesktop::current().runLoopSources;
         [source release];
     }

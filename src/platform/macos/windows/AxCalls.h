@@ -21,9 +21,10 @@ inline std::expected<void, AxError> axResult(AXError error)
     return {};
 }
 
-inline std::expected<CfRef<CFTypeRef>, AxError> readAttribute(AXUIElementRef element, CFStringRef name)
+inline std::expected<CfRef<CFTypeRef>, AxError> readAttribute(AXUIElementRef element, CFStringRef name,
+                                                              float timeout = readingTimeout)
 {
-    AXUIElementSetMessagingTimeout(element, readingTimeout);
+    AXUIElementSetMessagingTimeout(element, timeout);
     CFTypeRef value = nullptr;
     const auto result = axResult(AXUIElementCopyAttributeValue(element, name, &value));
     auto owned = CfRef<CFTypeRef>::adopt(value);

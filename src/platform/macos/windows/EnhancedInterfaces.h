@@ -5,6 +5,7 @@
 #include <ApplicationServices/ApplicationServices.h>
 
 #include "base/WeakGuard.h"
+#include "platform/Accessibility.h"
 #include "platform/ProcessId.h"
 #include "platform/macos/CfRef.h"
 
@@ -23,15 +24,22 @@ public:
     EnhancedInterfaces& operator=(const EnhancedInterfaces&) = delete;
     ~EnhancedInterfaces() { restore(); }
 
-    // Switches it off, if it is on, in the application of that window, until the next turn of the main queue.
-    void pauseFor(AXUIElementRef window);
+    // Switches it off, if it is on, in the application of that window, until the next turn of the main queue. An error
+    // if the application does not answer, which then is not waited for again in this turn.
+    std::expected<void, AxError> pauseFor(AXUIElementRef window);
 
 private:
+    // What an application said in this turn.
+    struct Answer {
+        std::expected<void, AxError> result;
+        CfRef<AXUIElementRef> paused; // null where there was nothing to switch off
+    };
+
+    static Answer ask(ProcessId process);
     void restore();
 
     MainQueue& mainQueue;
-    std::map<ProcessId, CfRef<AXUIElementRef>>
-        asked; // the applications of this turn; null where there is nothing to do
+    std::map<ProcessId, Answer> asked;
     WeakGuard weakly;
 };
 

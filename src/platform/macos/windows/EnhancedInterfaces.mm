@@ -12,36 +12,46 @@ namespace {
 
 const auto enhancedInterface = CFSTR("AXEnhancedUserInterface");
 
-bool isEnhanced(AXUIElementRef application)
-{
-    const auto value = readAttribute(application, enhancedInterface);
-    const auto boolean = value ? asBoolean(value->get()) : nullptr;
-    return boolean != nullptr && CFBooleanGetValue(boolean);
-}
-
 } // namespace
 
-void EnhancedInterfaces::pauseFor(AXUIElementRef window)
+std::expected<void, AxError> EnhancedInterfaces::pauseFor(AXUIElementRef window)
 {
     pid_t process = 0;
-    if (AXUIElementGetPid(window, &process) != kAXErrorSuccess || asked.contains(process)) {
-        return;
+    if (AXUIElementGetPid(window, &process) != kAXErrorSuccess) {
+        return {};
     }
     if (asked.empty()) {
         mainQueue.async(weakly.guard([this] { restore(); }));
     }
-    auto& paused = asked[process];
-    auto application = CfRef<AXUIElementRef>::adopt(AXUIElementCreateApplication(process));
-    if (isEnhanced(application.get()) && writeAttribute(application.get(), enhancedInterface, kCFBooleanFalse)) {
-        paused = std::move(application);
+    if (!asked.contains(process)) {
+        asked.emplace(process, ask(process));
     }
+    return asked.at(process).result;
+}
+
+EnhancedInterfaces::Answer EnhancedInterfaces::ask(ProcessId process)
+{
+    auto application = CfRef<AXUIElementRef>::adopt(AXUIElementCreateApplication(process));
+    const auto value = readAttribute(application.get(), enhancedInterface, actingTimeout);
+    if (!value) {
+        const bool isHanging = value.error() == axErrors::cannotComplete;
+        return {isHanging ? std::expected<void, AxError>(std::unexpected(value.error()))
+                          : std::expected<void, AxError>(),
+                {}};
+    }
+    const auto isEnhanced = asBoolean(value->get());
+    if (isEnhanced == nullptr || !CFBooleanGetValue(isEnhanced) ||
+        !writeAttribute(application.get(), enhancedInterface, kCFBooleanFalse)) {
+        return {};
+    }
+    return {{}, std::move(application)};
 }
 
 void EnhancedInterfaces::restore()
 {
-    for (const auto& [process, application] : std::exchange(asked, {})) {
-        if (application) {
-            static_cast<void>(writeAttribute(application.get(), enhancedInterface, kCFBooleanTrue));
+    for (const auto& [process, answer] : std::exchange(asked, {})) {
+        if (answer.paused) {
+            static_cast<void>(writeAttribute(answer.paused.get(), enhancedInterface, kCFBooleanTrue));
         }
     }
 }

@@ -32,7 +32,9 @@ std::expected<void, AxError> MacAccessibility::setAttribute(const AxElementRef& 
         return std::unexpected(axErrors::illegalArgument);
     }
     if (name == axNames::position || name == axNames::size) {
-        enhancedInterfaces.pauseFor(native);
+        if (const auto answered = enhancedInterfaces.pauseFor(native); !answered) {
+            return answered;
+        }
     }
     return writeAttribute(native, cfString(name).get(), nativeValue.get());
 }

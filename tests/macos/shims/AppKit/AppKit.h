@@ -10,3 +10,4 @@
 #define NO __objc_no
 
 #import <AppKit/Desktop.h>
+#import <AppKit/Events.h>

@@ -1,0 +1,34 @@
+#include "platform/macos/keys/KeyEvents.h"
+
+#include "platform/macos/Strings.h"
+
+namespace quorvel::macos {
+
+namespace {
+
+// Keys without characters, such as arrows and F1, have ones of a private range.
+bool isFunctionKey(NSString* characters)
+{
+    const unichar first = [characters length] > 0 ? [characters characterAtIndex:0] : u'\0';
+    return first >= NSUpArrowFunctionKey && first <= NSModeSwitchFunctionKey;
+}
+
+std::uint64_t heldFlags(NSEvent* event)
+{
+    std::uint64_t own = NSEventModifierFlagNumericPad | NSEventModifierFlagHelp;
+    if (isFunctionKey([event charactersIgnoringModifiers])) {
+        own |= NSEventModifierFlagFunction;
+    }
+    return [event modifierFlags] & ~own;
+}
+
+} // namespace
+
+KeyEvent keyEvent(NSEvent* event)
+{
+    @autoreleasepool {
+        return {[event keyCode], utf8([event characters]), heldFlags(event)};
+    }
+}
+
+} // namespace quorvel::macos
