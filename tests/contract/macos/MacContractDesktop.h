@@ -3,11 +3,13 @@
 #include "contract/macos/BundleFolder.h"
 #include "contract/simulated/SimulatedContractDesktop.h"
 #include "macos/fakes/FakeDesktop.h"
+#include "platform/StandardOutputLog.h"
 #include "platform/macos/desktop/MacBundle.h"
 #include "platform/macos/desktop/MacDates.h"
 #include "platform/macos/desktop/MacLoginItem.h"
 #include "platform/macos/desktop/MacMainQueue.h"
 #include "platform/macos/desktop/MacNotificationCenter.h"
+#include "platform/macos/desktop/MacPermissions.h"
 #include "platform/macos/desktop/MacScreens.h"
 #include "platform/macos/desktop/MacUpdater.h"
 #include "platform/macos/desktop/MacUserDefaults.h"
@@ -32,6 +34,7 @@ public:
     bool turn() override;
     void settle() override;
     UserDefaults& reopenedUserDefaults() override;
+    std::vector<std::string> logged(const std::function<void()>& work) override;
     void addResource(std::string_view name, std::string_view extension, std::string_view content) override;
     void addUnreadableResource(std::string_view name, std::string_view extension) override;
 
@@ -54,6 +57,8 @@ private:
     macos::MacEventTaps eventTaps;
     macos::MacEventMonitors eventMonitors;
     macos::MacKeyboardLayout keyboardLayout;
+    macos::MacPermissions permissions{workspace};
+    StandardOutputLog log;
 };
 
 } // namespace quorvel::contract

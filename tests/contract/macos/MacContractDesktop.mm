@@ -2,6 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
+#include "support/CapturedOutput.h"
+
 namespace quorvel::contract {
 
 namespace {
@@ -22,7 +24,8 @@ MacContractDesktop::~MacContractDesktop() = default;
 
 ContractPorts MacContractDesktop::ports()
 {
-    return {.mainQueue = &mainQueue,
+    return {.log = &log,
+            .mainQueue = &mainQueue,
             .userDefaults = &userDefaults,
             .notificationCenter = &notificationCenter,
             .bundle = &bundle,
@@ -35,6 +38,7 @@ ContractPorts MacContractDesktop::ports()
             .screens = &screens,
             .keyboardLayout = &keyboardLayout,
             .eventMonitors = &eventMonitors,
+            .permissions = &permissions,
             .loginItem = &loginItem,
             .updater = updater.get(),
             .session = SimulatedContractDesktop::ports().session};
@@ -79,6 +83,13 @@ UserDefaults& MacContractDesktop::reopenedUserDefaults()
 {
     reopened = std::make_unique<macos::MacUserDefaults>(mainQueue);
     return *reopened;
+}
+
+std::vector<std::string> MacContractDesktop::logged(const std::function<void()>& work)
+{
+    xtest::CapturedOutput output;
+    work();
+    return output.pieces();
 }
 
 std::unique_ptr<ContractDesktop> makeContractDesktop()

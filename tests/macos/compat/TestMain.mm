@@ -1,4 +1,5 @@
 #import <Foundation/Foundation.h>
+#import <Foundation/NSDebug.h>
 #include <gtest/gtest.h>
 
 #include "macos/compat/Blocks.h"
@@ -9,20 +10,38 @@ namespace {
 
 using namespace quorvel::fakes;
 
-// Gives each test an autorelease pool, and fails one that leaves references behind, gives back too many or was
-// complained about.
+// How many objects of the program's own classes and of the fakes' there are, without what lives as long as the process.
+int livingObjects()
+{
+    int count = 0;
+    for (const Class* each = GSDebugAllocationClassList(); each != nullptr && *each != Nil; ++each) {
+        NSString* const name = NSStringFromClass(*each);
+        if ([name hasPrefix:@"Quorvel"] && ![name isEqual:@"QuorvelWorkspace"]) {
+            count += GSDebugAllocationCount(*each);
+        }
+    }
+    return count;
+}
+
+// Gives each test an autorelease pool, and fails one that leaves objects or references behind, gives back too many or
+// was complained about.
 class Bookkeeper final : public testing::EmptyTestEventListener {
 public:
     void OnTestStart(const testing::TestInfo&) override
     {
         pool = [[NSAutoreleasePool alloc] init];
-        before = ownedReferences();
+        GSDebugAllocationActive(YES);
+        objectsBefore = livingObjects();
+        referencesBefore = ownedReferences();
     }
 
     void OnTestEnd(const testing::TestInfo&) override
     {
         [pool release];
-        EXPECT_EQ(ownedReferences() - before, 0) << "References to Core Foundation objects are out of balance";
+        EXPECT_EQ(ownedReferences(), referencesBefore) << "References to Core Foundation objects are out of balance";
+        @autoreleasepool {
+            EXPECT_EQ(livingObjects(), objectsBefore) << "Objective-C objects were left behind or released too often";
+        }
         for (const auto& mistake : takeComplaints()) {
             ADD_FAILURE() << mistake;
         }
@@ -30,7 +49,8 @@ public:
 
 private:
     NSAutoreleasePool* pool = nil;
-    long before = 0;
+    long referencesBefore = 0;
+    int objectsBefore = 0;
 };
 
 } // namespace

@@ -94,7 +94,9 @@ TEST_F(MacDefaultsTest, NewsOfTheProgramAreOnTheDefaultNotificationCentre)
     const id token = [[NSNotificationCenter defaultCenter] addObserverForName:@"ShortcutDidChangeNotification"
                                                                        object:nil
                                                                         queue:nil
-                                                                   usingBlock:^(NSNotification*) { ++heard; }];
+                                                                   usingBlock:^(NSNotification*) {
+                                                                     ++heard;
+                                                                   }];
 
     center.post(notificationNames::shortcutDidChange, noNotificationObject);
     [[NSNotificationCenter defaultCenter] removeObserver:token];

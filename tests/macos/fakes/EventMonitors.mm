@@ -42,10 +42,11 @@ id keep(Subscription registration)
     if (mask != NSEventMaskKeyDown) {
         fakes::complain("A local monitor of other events than key-downs");
     }
-    return keep(monitors().addLocalKeyDownMonitor([handler = macos::Retained<id>::adopt([handler copy])](const KeyEvent& key) {
-        const auto call = static_cast<NSEvent* (^)(NSEvent*)>(handler.get());
-        return call(fakes::keyDown(key)) != nil ? EventHandling::pass : EventHandling::swallow;
-    }));
+    return keep(
+        monitors().addLocalKeyDownMonitor([handler = macos::Retained<id>::adopt([handler copy])](const KeyEvent& key) {
+            const auto call = static_cast<NSEvent* (^)(NSEvent*)>(handler.get());
+            return call(fakes::keyDown(key)) != nil ? EventHandling::pass : EventHandling::swallow;
+        }));
 }
 
 + (id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask handler:(void (^)(NSEvent*))handler

@@ -97,7 +97,7 @@ CFMachPortRef CGEventTapCreate(CGEventTapLocation location, CGEventTapPlacement 
         {.eventMask = mask}, [callback, context](const TapEvent& event) {
             FakeCGEvent native{event};
             return callback(nullptr, nativeType(event.type()), &native, context) == nullptr ? TapDecision::drop
-                                                                                           : TapDecision::pass;
+                                                                                            : TapDecision::pass;
         });
     if (!tap) {
         return nullptr;

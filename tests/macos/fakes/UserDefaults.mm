@@ -29,7 +29,8 @@ using quorvel::fakes::FakeDesktop;
 {
     auto& kept = FakeDesktop::current().userDefaults;
     if (!kept) {
-        kept = std::shared_ptr<void>([[NSUserDefaults alloc] init], [](void* each) { [static_cast<id>(each) release]; });
+        kept =
+            std::shared_ptr<void>([[NSUserDefaults alloc] init], [](void* each) { [static_cast<id>(each) release]; });
     }
     return static_cast<NSUserDefaults*>(kept.get());
 }

@@ -1,9 +1,10 @@
+#include "platform/macos/windows/MacAccessibility.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "macos/fakes/FakeDesktop.h"
 #include "platform/macos/desktop/MacMainQueue.h"
-#include "platform/macos/windows/MacAccessibility.h"
 
 namespace quorvel::macos {
 namespace {
@@ -130,7 +131,8 @@ TEST_F(MacAccessibilityTest, ElementsOutliveTheListThatNamedThem)
 {
     std::vector<AxElementRef> elements;
     {
-        const auto list = accessibility.copyAttribute(accessibility.applicationElement(editor.process()), axNames::windows);
+        const auto list =
+            accessibility.copyAttribute(accessibility.applicationElement(editor.process()), axNames::windows);
         elements = std::get<std::vector<AxElementRef>>(list.value());
     }
 

@@ -1,13 +1,13 @@
+#include "platform/macos/windows/MacWorkspace.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
 #include <unistd.h>
 
 #include "macos/fakes/FakeDesktop.h"
 #include "platform/macos/desktop/MacMainQueue.h"
 #include "platform/macos/desktop/MacPermissions.h"
 #include "platform/macos/windows/MacWindowList.h"
-#include "platform/macos/windows/MacWorkspace.h"
 
 namespace quorvel::macos {
 namespace {
@@ -33,8 +33,7 @@ TEST_F(MacWorkspaceTest, AnApplicationMayHaveNoName)
 {
     desktop.launch(RunningApplication{700, std::nullopt, ActivationPolicy::prohibited});
 
-    EXPECT_EQ(workspace.runningApplication(700),
-              (RunningApplication{700, std::nullopt, ActivationPolicy::prohibited}));
+    EXPECT_EQ(workspace.runningApplication(700), (RunningApplication{700, std::nullopt, ActivationPolicy::prohibited}));
 }
 
 TEST_F(MacWorkspaceTest, WhereNobodyIsInFrontThereIsNoFrontmostApplication)
@@ -91,8 +90,7 @@ TEST_F(MacWorkspaceTest, WhatTheWindowServerDoesNotTellIsAbsent)
     auto& window = desktop.openWindow(desktop.launch("Editor"), "Notes", {100.0, 120.0, 500.0, 400.0});
     window.listAs({.ownerProcess = std::nullopt, .layer = 25, .bounds = std::nullopt});
 
-    EXPECT_THAT(MacWindowList().onScreenWindows(),
-                ElementsAre(WindowListEntry{std::nullopt, 25, std::nullopt}));
+    EXPECT_THAT(MacWindowList().onScreenWindows(), ElementsAre(WindowListEntry{std::nullopt, 25, std::nullopt}));
 }
 
 } // namespace

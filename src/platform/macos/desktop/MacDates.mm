@@ -18,8 +18,8 @@ std::string MacDates::mediumText(const Date& date) const
         const auto formatter = Retained<NSDateFormatter*>::adopt([[NSDateFormatter alloc] init]);
         [formatter.get() setDateStyle:NSDateFormatterMediumStyle];
         [formatter.get() setTimeStyle:NSDateFormatterNoStyle];
-        return utf8([formatter.get()
-            stringFromDate:[NSDate dateWithTimeIntervalSinceReferenceDate:date.secondsSince2001]]);
+        return utf8(
+            [formatter.get() stringFromDate:[NSDate dateWithTimeIntervalSinceReferenceDate:date.secondsSince2001]]);
     }
 }
 

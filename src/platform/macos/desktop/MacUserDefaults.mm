@@ -22,10 +22,7 @@
 
 @implementation QuorvelDefaultsObserver
 
-- (void)observeValueForKeyPath:(NSString*)key
-                      ofObject:(id)object
-                        change:(NSDictionary*)change
-                       context:(void*)context
+- (void)observeValueForKeyPath:(NSString*)key ofObject:(id)object change:(NSDictionary*)change context:(void*)context
 {
     changed(quorvel::macos::utf8(key));
 }
@@ -45,14 +42,16 @@ std::optional<PropertyValue> stored(NSUserDefaults* defaults, std::string_view k
 
 } // namespace
 
-// The keys that were asked for, with the values that this program knows of them; whatever else is found there was written
-// by somebody else. The system tells of single keys only, and of own changes, too.
+// The keys that were asked for, with the values that this program knows of them; whatever else is found there was
+// written by somebody else. The system tells of single keys only, and of own changes, too.
 class MacUserDefaults::Watch {
 public:
-    explicit Watch(MainQueue& mainQueue) : observer(Retained<QuorvelDefaultsObserver*>::adopt([[QuorvelDefaultsObserver alloc] init]))
+    explicit Watch(MainQueue& mainQueue)
+        : observer(Retained<QuorvelDefaultsObserver*>::adopt([[QuorvelDefaultsObserver alloc] init]))
     {
-        observer.get()->changed = [&mainQueue, check = weakly.guard([this](const std::string& key) { check(key); })](
-                                      const std::string& key) { mainQueue.async([check, key]() mutable { check(key); }); };
+        observer.get()->changed = [&mainQueue, check = weakly.guard([this](const std::string& key) {
+            check(key);
+        })](const std::string& key) { mainQueue.async([check, key]() mutable { check(key); }); };
     }
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;

@@ -83,9 +83,9 @@ CGEventTapOptions options(EventTapOptions options)
 
 MacEventTap::MacEventTap(const EventTapDescription& description, EventTapCallback callback)
     : callback(std::move(callback)),
-      port(CfRef<CFMachPortRef>::adopt(
-          CGEventTapCreate(location(description.location), placement(description.placement),
-                           options(description.options), description.eventMask, &MacEventTap::seen, this)))
+      port(CfRef<CFMachPortRef>::adopt(CGEventTapCreate(location(description.location),
+                                                        placement(description.placement), options(description.options),
+                                                        description.eventMask, &MacEventTap::seen, this)))
 {
     setEnabled(false); // it comes enabled, and would hold up every key until somebody serves it
 }
@@ -101,8 +101,7 @@ MacEventTap::~MacEventTap()
 
 bool MacEventTap::createRunLoopSource()
 {
-    source =
-        CfRef<CFRunLoopSourceRef>::adopt(CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port.get(), 0));
+    source = CfRef<CFRunLoopSourceRef>::adopt(CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port.get(), 0));
     return static_cast<bool>(source);
 }
 

@@ -13,8 +13,8 @@ public:
     std::expected<HotKeyId, OsStatus> hotKeyId() const override
     {
         EventHotKeyID id{};
-        const auto status = GetEventParameter(event, kEventParamDirectObject, typeEventHotKeyID, nullptr, sizeof id,
-                                              nullptr, &id);
+        const auto status =
+            GetEventParameter(event, kEventParamDirectObject, typeEventHotKeyID, nullptr, sizeof id, nullptr, &id);
         if (status != noErr) {
             return std::unexpected(status);
         }

@@ -19,7 +19,8 @@ CFDataRef layoutData(TISInputSourceRef source)
                : nullptr;
 }
 
-// What the current keyboard types by. Chinese, Japanese and others have no table of keys; they stand on a layout that has.
+// What the current keyboard types by. Chinese, Japanese and others have no table of keys; they stand on a layout that
+// has.
 CfRef<CFDataRef> currentLayout()
 {
     const auto current = CfRef<TISInputSourceRef>::adopt(TISCopyCurrentKeyboardInputSource());
@@ -48,10 +49,9 @@ std::string MacKeyboardLayout::characters(KeyCode keyCode)
     UInt32 deadKeyState = 0;
     std::array<UniChar, 8> text{};
     UniCharCount length = 0;
-    const auto status =
-        UCKeyTranslate(reinterpret_cast<const UCKeyboardLayout*>(CFDataGetBytePtr(layout.get())),
-                       static_cast<UInt16>(keyCode), kUCKeyActionDown, 0, LMGetKbdType(), 0, &deadKeyState,
-                       text.size(), &length, text.data());
+    const auto status = UCKeyTranslate(reinterpret_cast<const UCKeyboardLayout*>(CFDataGetBytePtr(layout.get())),
+                                       static_cast<UInt16>(keyCode), kUCKeyActionDown, 0, LMGetKbdType(), 0,
+                                       &deadKeyState, text.size(), &length, text.data());
     if (status != noErr || std::any_of(text.begin(), text.begin() + length, isControl)) {
         return {};
     }
