@@ -106,5 +106,17 @@ TEST_F(WindowManagerTest, ThatItGoesAndThatOneComesIsTold)
     desktop.waitFor("the start to be told", [&] { return told == std::vector{false, true}; });
 }
 
+TEST(WindowManagerBarrierTest, OneThatAnswersLateIsAskedAgain)
+{
+    AdapterDisplay desktop;
+    desktop.display.startWindowManager(xtest::WindowManager::openbox);
+    const xtest::ClientProcess program(desktop.display.server, desktop.client(), xtest::ClientProcess::Kind::plain);
+    desktop.display.windowManager().hold();
+    desktop.place(AdapterDisplay::elementOf(program), {300.0, 200.0, 500.0, 400.0});
+    EXPECT_FALSE(desktop.adapters.barrier.isSupported());
+    desktop.display.windowManager().goOn();
+    desktop.waitFor("the late answer", [&] { return desktop.adapters.barrier.isSupported(); });
+}
+
 } // namespace
 } // namespace quorvel::x11

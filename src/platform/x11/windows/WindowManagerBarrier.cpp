@@ -55,6 +55,7 @@ void WindowManagerBarrier::handleAnswer()
         return;
     }
     answeringManager = askedManager;
+    silentManager = 0;
     const auto callback = std::move(waiting.front());
     waiting.pop_front();
     callback();

@@ -24,7 +24,8 @@ public:
     // Whether the present window manager says that it answers, and has not been found silent.
     bool isSupported();
 
-    // It has been waited for in vain. Some only say that they answer; one that never did is not asked again.
+    // It has been waited for in vain. Some only say that they answer; one that never did is not asked again, unless its
+    // answer comes yet.
     void noteVainWait();
 
     // Calls back from the main loop once everything sent so far has been carried out; never if the window manager
