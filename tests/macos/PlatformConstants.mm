@@ -62,8 +62,6 @@ static_assert(kCGEventFlagMaskAlternate == eventFlags::option);
 static_assert(kCGEventFlagMaskCommand == eventFlags::command);
 static_assert(kCGEventFlagMaskNumericPad == 0x200000);
 static_assert(kCGEventFlagMaskSecondaryFn == 0x800000);
-static_assert(static_cast<std::uint64_t>(NSEventModifierFlagDeviceIndependentFlagsMask) ==
-              eventFlags::deviceIndependentMask);
 static_assert(cmdKey == hotKeyModifiers::command);
 static_assert(shiftKey == hotKeyModifiers::shift);
 static_assert(optionKey == hotKeyModifiers::option);
@@ -106,20 +104,15 @@ static_assert(NSUpArrowFunctionKey == 0xF700);
 
 // AppKit: windows and panels
 static_assert(NSBackingStoreBuffered == 2);
-static_assert(NSWindowAnimationBehaviorNone == 2);
 static_assert(NSWindowDocumentIconButton == 4);
 static_assert(NSWindowStyleMaskClosable == 0x2);
 static_assert(NSWindowStyleMaskFullSizeContentView == 0x8000);
 static_assert(NSWindowStyleMaskTitled == 0x1);
-static_assert(NSWindowToolbarStyleUnified == 3);
 
 // AppKit: controls
 static_assert(NSAlertFirstButtonReturn == 1000);
-static_assert(NSBezelStyleRounded == 1);
 static_assert(NSBoxCustom == 4);
 static_assert(NSBoxSeparator == 2);
-static_assert(NSButtonTypeMomentaryChange == 5);
-static_assert(NSButtonTypeMomentaryPushIn == 7);
 static_assert(NSControlStateValueOff == 0);
 static_assert(NSControlStateValueOn == 1);
 static_assert(NSDragOperationMove == 16);
@@ -146,8 +139,15 @@ static_assert(NSLineBreakByTruncatingTail == 4);
 static_assert(NSNotFound == std::numeric_limits<NSInteger>::max());
 static_assert(NSTextAlignmentLeft == 0);
 
-// These have other numbers in GNUstep, and adapters use them by name only.
+// These have other numbers or names in GNUstep, and adapters use them by name only.
 #ifndef GNUSTEP
+static_assert(static_cast<std::uint64_t>(NSEventModifierFlagDeviceIndependentFlagsMask) ==
+              eventFlags::deviceIndependentMask);
+static_assert(NSWindowAnimationBehaviorNone == 2);
+static_assert(NSWindowToolbarStyleUnified == 3);
+static_assert(NSBezelStyleRounded == 1);
+static_assert(NSButtonTypeMomentaryChange == 5);
+static_assert(NSButtonTypeMomentaryPushIn == 7);
 static_assert(NSTextAlignmentCenter == 1);
 static_assert(NSTextAlignmentRight == 2);
 #endif

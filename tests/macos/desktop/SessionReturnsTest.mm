@@ -1,6 +1,6 @@
 #include "platform/macos/desktop/SessionReturns.h"
 
-#include <optional>
+#include <vector>
 
 #import <AppKit/AppKit.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ protected:
     SimulatedDesktop desktop;
     fakes::FakeDesktop mac{desktop};
     int returns = 0;
-    std::optional<SessionReturns> sessionReturns{std::in_place, [this] { ++returns; }};
+    std::vector<Subscription> tokens = observeSessionReturns([this] { ++returns; });
 };
 
 TEST_F(SessionReturnsTest, AMachineThatWakesUpIsToldOf)
@@ -38,7 +38,7 @@ TEST_F(SessionReturnsTest, AUserWhoComesBackFromAnotherSessionIsToldOf)
 
 TEST_F(SessionReturnsTest, NothingIsToldOfAfterItsEnd)
 {
-    sessionReturns.reset();
+    tokens.clear();
     post(NSWorkspaceDidWakeNotification);
     post(NSWorkspaceSessionDidBecomeActiveNotification);
     EXPECT_EQ(returns, 0);

@@ -3,23 +3,12 @@
 #include <functional>
 #include <vector>
 
-#import <Foundation/Foundation.h>
-
-#include "platform/macos/Retained.h"
+#include "base/Subscription.h"
 
 namespace quorvel::macos {
 
-// Tells that the machine has woken up or that its user has come back to this session from that of another one.
-class SessionReturns {
-public:
-    // `returned` runs on the main thread until this goes.
-    explicit SessionReturns(std::function<void()> returned);
-    SessionReturns(const SessionReturns&) = delete;
-    SessionReturns& operator=(const SessionReturns&) = delete;
-    ~SessionReturns();
-
-private:
-    std::vector<Retained<id>> observers;
-};
+// Calls `returned` on the main thread when the machine has woken up or its user has come back to this session from that
+// of another one, until the tokens go.
+std::vector<Subscription> observeSessionReturns(const std::function<void()>& returned);
 
 } // namespace quorvel::macos

@@ -2,34 +2,18 @@
 
 #import <AppKit/AppKit.h>
 
+#include "platform/macos/NotificationTokens.h"
+
 namespace quorvel::macos {
 
-namespace {
-
-NSNotificationCenter* center()
+std::vector<Subscription> observeSessionReturns(const std::function<void()>& returned)
 {
-    return [[NSWorkspace sharedWorkspace] notificationCenter];
-}
-
-} // namespace
-
-SessionReturns::SessionReturns(std::function<void()> returned)
-{
+    NSNotificationCenter* const center = [[NSWorkspace sharedWorkspace] notificationCenter];
+    std::vector<Subscription> tokens;
     for (NSString* name in @[ NSWorkspaceDidWakeNotification, NSWorkspaceSessionDidBecomeActiveNotification ]) {
-        observers.push_back(Retained<id>::retain([center() addObserverForName:name
-                                                                       object:nil
-                                                                        queue:nil
-                                                                   usingBlock:^(NSNotification*) {
-                                                                     returned();
-                                                                   }]));
+        tokens.push_back(observeNotification(center, name, [returned](NSNotification*) { returned(); }));
     }
-}
-
-SessionReturns::~SessionReturns()
-{
-    for (const auto& observer : observers) {
-        [center() removeObserver:observer.get()];
-    }
+    return tokens;
 }
 
 } // namespace quorvel::macos
