@@ -110,7 +110,7 @@ SimulatedAccessibility::createObserver(ProcessId process, std::function<void(std
     if (observerError) {
         return std::unexpected(*observerError);
     }
-    if (!permissions.isGiven(Permission::accessibility)) {
+    if (!mayBeCalled()) {
         return std::unexpected(axErrors::apiDisabled);
     }
     auto registration = std::make_shared<Registration>(Registration{process, std::move(callback), {}, false});
@@ -155,6 +155,11 @@ void SimulatedAccessibility::notifyUnasked(ProcessId process, std::string_view n
     }
 }
 
+bool SimulatedAccessibility::mayBeCalled() const
+{
+    return !callsRefused && permissions.isGiven(Permission::accessibility);
+}
+
 std::expected<SimulatedAccessibility::Target, AxError>
 SimulatedAccessibility::resolve(const AxElementRef& element) const
 {
@@ -162,7 +167,7 @@ SimulatedAccessibility::resolve(const AxElementRef& element) const
     if (named == nullptr) {
         return std::unexpected(axErrors::illegalArgument);
     }
-    if (!permissions.isGiven(Permission::accessibility)) {
+    if (!mayBeCalled()) {
         return std::unexpected(axErrors::apiDisabled);
     }
     const bool isWindow = named->kind == SimulatedElementKind::window;

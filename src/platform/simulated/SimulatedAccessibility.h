@@ -35,7 +35,13 @@ public:
     AxElementRef elementOf(const SimulatedWindow& window) const;
 
     void failObserverCreation(AxError error) { observerError = error; }
-    void behave() { observerError.reset(); }
+    // Refuses every call as if the permission were missing, though it is given.
+    void refuseCalls() { callsRefused = true; }
+    void behave()
+    {
+        observerError.reset();
+        callsRefused = false;
+    }
 
     // Tells the observers of the window, later.
     void notify(const SimulatedWindow& window, std::string_view notification);
@@ -52,6 +58,7 @@ private:
         SimulatedWindow* window = nullptr; // null for an application
     };
 
+    bool mayBeCalled() const;
     std::expected<Target, AxError> resolve(const AxElementRef& element) const;
     std::expected<AxValue, AxError> read(const Target& target, std::string_view name) const;
     std::expected<AxValue, AxError> readApplication(ProcessId process, std::string_view name) const;
@@ -69,6 +76,7 @@ private:
     SimulatedWindowServer& windowServer;
     std::vector<std::weak_ptr<Registration>> observers;
     std::optional<AxError> observerError;
+    bool callsRefused = false;
 };
 
 } // namespace quorvel
