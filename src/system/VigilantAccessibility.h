@@ -11,9 +11,9 @@ class MainQueue;
 class Permissions;
 class Workspace;
 
-// A platform's accessibility with an eye on a contradiction: a system that calls the permission given, and refuses calls
-// as if it were not. Some do so once the program has been replaced by another version. A person would look in vain for
-// what is wrong, so the first time in a run this is said, with the repair.
+// A platform's accessibility with an eye on a contradiction: a system that calls the permission given, and refuses
+// calls as if it were not. Some do so once the program has been replaced by another version. A person would look in
+// vain for what is wrong, so the first time in a run this is said, with the repair.
 class VigilantAccessibility final : public Accessibility {
 public:
     // What the report goes by and through; all of it outlives this object.

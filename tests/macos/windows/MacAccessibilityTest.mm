@@ -127,6 +127,26 @@ TEST_F(MacAccessibilityTest, AnInterfaceThatIsNotEnhancedStaysSo)
     EXPECT_THAT(writes(), ElementsAre(testing::StartsWith("Accessibility"), testing::StartsWith("Accessibility")));
 }
 
+TEST_F(MacAccessibilityTest, ARaisedWindowIsTheFrontOneOfItsApplication)
+{
+    const auto element = windowElement();
+    const auto& letter = desktop.openWindow(editor, "Letter", {200.0, 200.0, 450.0, 350.0});
+    ASSERT_EQ(desktop.windowServer.frontWindow(editor), &letter);
+
+    EXPECT_TRUE(accessibility.performAction(element, axNames::raise));
+
+    EXPECT_EQ(desktop.windowServer.frontWindow(editor), &window);
+}
+
+TEST_F(MacAccessibilityTest, ARefusalInSpiteOfThePermissionIsTold)
+{
+    const auto element = windowElement();
+    desktop.accessibility.refuseCalls();
+
+    EXPECT_EQ(accessibility.copyAttribute(element, axNames::title), std::unexpected(axErrors::apiDisabled));
+    EXPECT_EQ(write(element, axNames::position, AxPoint{1.0, 2.0}), std::unexpected(axErrors::apiDisabled));
+}
+
 TEST_F(MacAccessibilityTest, ElementsOutliveTheListThatNamedThem)
 {
     std::vector<AxElementRef> elements;
