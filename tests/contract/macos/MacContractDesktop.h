@@ -17,6 +17,8 @@
 #include "platform/macos/keys/MacEventTaps.h"
 #include "platform/macos/keys/MacHotKeys.h"
 #include "platform/macos/keys/MacKeyboardLayout.h"
+#include "platform/macos/overlays/MacOverlayWindows.h"
+#include "platform/macos/overlays/MacTextMetrics.h"
 #include "platform/macos/windows/MacAccessibility.h"
 #include "platform/macos/windows/MacWindowList.h"
 #include "platform/macos/windows/MacWorkspace.h"
@@ -51,6 +53,8 @@ private:
     macos::MacNotificationCenter notificationCenter{mainQueue};
     macos::MacUserDefaults userDefaults{mainQueue};
     std::unique_ptr<macos::MacUserDefaults> reopened;
+    macos::MacOverlayWindows overlayWindows;
+    macos::MacTextMetrics textMetrics;
     macos::MacWindowList windowList;
     macos::MacWorkspace workspace{mainQueue};
     macos::MacHotKeys hotKeys;

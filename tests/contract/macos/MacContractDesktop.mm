@@ -3,6 +3,7 @@
 #import <Foundation/Foundation.h>
 
 #include "support/CapturedOutput.h"
+#include "macos/fakes/DisplayServer.h"
 
 namespace quorvel::contract {
 
@@ -18,7 +19,10 @@ void serveRunLoop()
 
 } // namespace
 
-MacContractDesktop::MacContractDesktop() = default;
+MacContractDesktop::MacContractDesktop()
+{
+    fakes::startDisplayServer();
+}
 
 MacContractDesktop::~MacContractDesktop() = default;
 
@@ -39,6 +43,8 @@ ContractPorts MacContractDesktop::ports()
             .keyboardLayout = &keyboardLayout,
             .eventMonitors = &eventMonitors,
             .permissions = &permissions,
+            .overlayWindows = &overlayWindows,
+            .textMetrics = &textMetrics,
             .loginItem = &loginItem,
             .updater = updater.get(),
             .session = SimulatedContractDesktop::ports().session};

@@ -2,14 +2,11 @@
 
 #import <AppKit/AppKit.h>
 
+#include "platform/macos/Rects.h"
+
 namespace quorvel::macos {
 
 namespace {
-
-ScreenRect screenRect(const NSRect& rect)
-{
-    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
-}
 
 Screen description(NSScreen* screen)
 {

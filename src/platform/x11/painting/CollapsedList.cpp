@@ -4,7 +4,7 @@
 #include <cmath>
 #include <variant>
 
-#include "platform/x11/painting/RoundedPath.h"
+#include "base/RoundedOutline.h"
 #include "platform/x11/painting/ShadowMask.h"
 
 namespace quorvel::x11 {

@@ -4,30 +4,11 @@
 #include <cmath>
 #include <variant>
 
+#include "base/DrawableCommands.h"
+
 namespace quorvel::x11 {
 
 namespace {
-
-// What settings can hold and no screen can show.
-constexpr double largestFont = 1000.0;
-constexpr double farthestEdge = 100'000.0;
-
-bool canBeDrawn(const ViewRect& rect, double radius, double strokeWidth)
-{
-    const auto isSane = [](double value) { return std::abs(value) <= farthestEdge; }; // not so for NaN
-    return isSane(rect.x) && isSane(rect.y) && isSane(rect.width) && isSane(rect.height) && isSane(radius) &&
-           isSane(strokeWidth);
-}
-
-bool canBeDrawn(const RoundedRectCommand& command)
-{
-    return canBeDrawn(command.rect, command.cornerRadius, command.stroke ? command.stroke->width : 0.0);
-}
-
-bool canBeDrawn(const TextCommand& command)
-{
-    return canBeDrawn(command.box, 0.0, 0.0) && command.font.size > 0.0 && command.font.size <= largestFont;
-}
 
 struct Alignment {
     double xFactor;
@@ -87,7 +68,7 @@ DrawList alignedToPixels(const DrawList& list, Size viewSize, PixelSize pixelSiz
     DrawList aligned;
     aligned.commands.reserve(list.commands.size());
     for (const auto& command : list.commands) {
-        if (std::visit([](const auto& known) { return canBeDrawn(known); }, command)) {
+        if (canBeDrawn(command)) {
             aligned.commands.push_back(std::visit(alignment, command));
         }
     }

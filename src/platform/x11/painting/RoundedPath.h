@@ -6,9 +6,6 @@
 
 namespace quorvel::x11 {
 
-// How far from its corner point along each side a rounded corner bends the outline, in the unit of `radius`.
-double cornerExtent(double radius, CornerStyle style);
-
 // Adds the outline of a rounded rectangle to the current path. A radius that is too large for the rectangle is cut to
 // half of its shorter side.
 void addRoundedRectangle(cairo_t* context, const ViewRect& rect, double radius, CornerStyle style);

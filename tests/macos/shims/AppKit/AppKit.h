@@ -11,3 +11,4 @@
 
 #import <AppKit/Desktop.h>
 #import <AppKit/Events.h>
+#import <AppKit/Windows.h>
