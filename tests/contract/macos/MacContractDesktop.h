@@ -4,6 +4,7 @@
 #include "contract/simulated/SimulatedContractDesktop.h"
 #include "macos/fakes/FakeDesktop.h"
 #include "platform/StandardOutputLog.h"
+#include "platform/macos/desktop/MacAlerts.h"
 #include "platform/macos/desktop/MacBundle.h"
 #include "platform/macos/desktop/MacDates.h"
 #include "platform/macos/desktop/MacLoginItem.h"
@@ -11,6 +12,8 @@
 #include "platform/macos/desktop/MacNotificationCenter.h"
 #include "platform/macos/desktop/MacPermissions.h"
 #include "platform/macos/desktop/MacScreens.h"
+#include "platform/macos/desktop/MacStatusBar.h"
+#include "platform/macos/desktop/MacSystemColors.h"
 #include "platform/macos/desktop/MacUpdater.h"
 #include "platform/macos/desktop/MacUserDefaults.h"
 #include "platform/macos/keys/MacEventMonitors.h"
@@ -35,6 +38,7 @@ public:
     bool can(Capability capability) const override;
     bool turn() override;
     void settle() override;
+    bool chooseFromStatusMenu(std::string_view title) override;
     UserDefaults& reopenedUserDefaults() override;
     std::vector<std::string> logged(const std::function<void()>& work) override;
     void addResource(std::string_view name, std::string_view extension, std::string_view content) override;
@@ -54,6 +58,9 @@ private:
     macos::MacUserDefaults userDefaults{mainQueue};
     std::unique_ptr<macos::MacUserDefaults> reopened;
     macos::MacOverlayWindows overlayWindows;
+    macos::MacStatusBar statusBar{bundleFolder.bundle()};
+    macos::MacAlerts alerts{bundleFolder.bundle()};
+    macos::MacSystemColors systemColors;
     macos::MacTextMetrics textMetrics;
     macos::MacWindowList windowList;
     macos::MacWorkspace workspace{mainQueue};

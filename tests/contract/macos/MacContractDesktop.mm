@@ -2,8 +2,9 @@
 
 #import <Foundation/Foundation.h>
 
-#include "support/CapturedOutput.h"
 #include "macos/fakes/DisplayServer.h"
+#include "macos/fakes/StatusItems.h"
+#include "support/CapturedOutput.h"
 
 namespace quorvel::contract {
 
@@ -42,9 +43,12 @@ ContractPorts MacContractDesktop::ports()
             .screens = &screens,
             .keyboardLayout = &keyboardLayout,
             .eventMonitors = &eventMonitors,
-            .permissions = &permissions,
             .overlayWindows = &overlayWindows,
             .textMetrics = &textMetrics,
+            .systemColors = &systemColors,
+            .statusBar = &statusBar,
+            .permissions = &permissions,
+            .alerts = &alerts,
             .loginItem = &loginItem,
             .updater = updater.get(),
             .session = SimulatedContractDesktop::ports().session};
@@ -73,6 +77,11 @@ void MacContractDesktop::settle()
     serveRunLoop();
     SimulatedContractDesktop::settle();
     serveRunLoop();
+}
+
+bool MacContractDesktop::chooseFromStatusMenu(std::string_view title)
+{
+    return fakes::chooseFromStatusMenu(title);
 }
 
 void MacContractDesktop::addResource(std::string_view name, std::string_view extension, std::string_view content)

@@ -6,6 +6,7 @@
 #import <AppKit/AppKit.h>
 #include <gtest/gtest.h>
 
+#include "macos/fakes/DisplayServer.h"
 #include "platform/macos/Strings.h"
 
 namespace quorvel::macos {
@@ -27,7 +28,7 @@ std::map<std::string, std::string> actionsByKey(NSMenu* menu)
 
 TEST(MainMenu, WindowsTakeTheUsualKeysFromIt)
 {
-    [NSApplication sharedApplication];
+    fakes::startDisplayServer();
     const auto menu = mainMenu();
     EXPECT_EQ(actionsByKey(menu.get()), (std::map<std::string, std::string>{{"q", "terminate:"},
                                                                             {"z", "undo:"},

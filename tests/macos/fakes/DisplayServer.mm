@@ -13,7 +13,7 @@ using namespace quorvel;
 extern "C" BOOL initialize_gnustep_backend();
 
 // GNUstep's way to a display. What is drawn is not kept.
-@interface QuorvelDisplayServer : GSDisplayServer {
+@interface FakeDisplayServer : GSDisplayServer {
     int _lastWindow;
 }
 @end
@@ -50,7 +50,7 @@ void stop(NSException* exception)
 
 } // namespace
 
-@implementation QuorvelDisplayServer
+@implementation FakeDisplayServer
 
 - (BOOL)handlesWindowDecorations
 {
@@ -204,7 +204,7 @@ void startDisplayServer()
     }
     @autoreleasepool {
         initialize_gnustep_backend();
-        [GSDisplayServer setDefaultServerClass:[QuorvelDisplayServer class]];
+        [GSDisplayServer setDefaultServerClass:[FakeDisplayServer class]];
         [NSApplication sharedApplication];
         NSSetUncaughtExceptionHandler(stop);
     }

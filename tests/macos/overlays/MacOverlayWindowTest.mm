@@ -4,6 +4,7 @@
 #include "macos/fakes/DisplayServer.h"
 #include "macos/fakes/Drawing.h"
 #include "macos/fakes/FakeDesktop.h"
+#import "macos/fakes/KeyEventObject.h"
 #include "platform/macos/overlays/MacOverlayWindows.h"
 
 namespace quorvel::macos {
@@ -94,6 +95,16 @@ TEST_F(MacOverlayWindowTest, TheNameUnderWhichAFrameIsKeptIsPassedOn)
     window->orderFrontRegardless();
 
     EXPECT_EQ(desktop.overlayWindows.visible().front()->frameAutosaveName, "A");
+}
+
+TEST_F(MacOverlayWindowTest, APanelTakesKeysWithCommandBeforeAnyMenu)
+{
+    std::vector<KeyCode> heard;
+    const auto panel = windows.createPanel(description, [&](const KeyEvent& key) { heard.push_back(key.keyCode); });
+
+    EXPECT_TRUE([nsWindow(*panel) performKeyEquivalent:fakes::keyDown({12, "q", eventFlags::command})]);
+
+    EXPECT_EQ(heard, std::vector{12});
 }
 
 TEST_F(MacOverlayWindowTest, ADestroyedWindowLeavesNothingBehind)

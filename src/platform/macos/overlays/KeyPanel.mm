@@ -19,4 +19,11 @@
     onKeyDown(quorvel::macos::keyEvent(event));
 }
 
+// Keys with Command come this way, before any menu.
+- (BOOL)performKeyEquivalent:(NSEvent*)event
+{
+    [self keyDown:event];
+    return YES;
+}
+
 @end

@@ -11,4 +11,5 @@
 
 #import <AppKit/Desktop.h>
 #import <AppKit/Events.h>
+#import <AppKit/StatusBar.h>
 #import <AppKit/Windows.h>
