@@ -92,7 +92,10 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
       windowManagerChanges(windows.windowManager.observe([this] { windowManagerHasChanged(); }))
 {
     constexpr int serverLostStatus = 1;
-    display.connection->setLostHandler([this] { this->loop.quit(serverLostStatus); });
+    display.connection->setLostHandler([this] {
+        toolkit.endInnerLoops();
+        this->loop.quit(serverLostStatus);
+    });
     display.claim->setLostHandler([this] { quit(); });
 }
 

@@ -70,7 +70,7 @@ std::span<const SettingGroup> groups()
 }
 
 constexpr std::string_view gridID = "showPreviewGrid";
-constexpr Size previewSize{640.0, 260.0};
+constexpr Size previewSize{640.0, 220.0};
 constexpr double windowMargin = 20.0;
 
 } // namespace

@@ -12,6 +12,8 @@
 #include <xcb/xfixes.h>
 #include <xcb/xinput.h>
 
+#include "platform/x11/ServerLoss.h"
+
 namespace quorvel::x11 {
 
 namespace {
@@ -196,7 +198,7 @@ void Connection::checkForLoss()
         return;
     }
     lost = true;
-    fmt::print(stderr, "The X server closed the connection.\n");
+    fmt::print(stderr, "{}\n", serverLossLine);
     if (auto handler = std::exchange(onLost, nullptr)) {
         handler();
     }

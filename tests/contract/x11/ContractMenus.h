@@ -23,6 +23,7 @@ public:
     std::unique_ptr<x11::ToolkitWindow> createPreferencesWindow(PreferencesWindowModel& model,
                                                                 x11::ToolkitWindowCallbacks callbacks) override;
     std::unique_ptr<x11::ToolkitWindow> createAboutWindow(const AboutContent& content) override;
+    void endInnerLoops() override {}
 
 private:
     struct OpenMenu {

@@ -23,6 +23,8 @@ public:
     }
     std::unique_ptr<ToolkitWindow> createAboutWindow(const AboutContent&) override { return nullptr; }
 
+    void endInnerLoops() override {}
+
     std::vector<Menu> opened;
     std::function<void(MenuCommand)> choose;
 };

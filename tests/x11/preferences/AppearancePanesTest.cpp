@@ -1,7 +1,5 @@
 #include <QAbstractButton>
 #include <QSlider>
-#include <QSpinBox>
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -67,6 +65,26 @@ protected:
         person.waitForWindow("Preferences");
     }
 
+    void deleteTheme(const std::string& name)
+    {
+        person.click("Delete “" + name + "”");
+        if (!pane().canRename) {
+            person.waitForWindow("Delete Theme");
+            person.click("Delete");
+            person.waitForWindow(pane().listTitle);
+        }
+        waitForThemes("the theme to go", [&](const auto& text) { return text.find(name) == text.npos; });
+        session.waitFor("the row to go", [&] { return ShellPerson::control("Delete “" + name + "”") == nullptr; });
+    }
+
+    void waitForKeyboard(const std::string& name)
+    {
+        session.waitFor("the keyboard at \"" + name + '"', [&] {
+            const auto* const control = ShellPerson::control(name);
+            return control != nullptr && control->hasFocus();
+        });
+    }
+
     void openThemes()
     {
         person.click("Manage Themes…");
@@ -126,31 +144,24 @@ TEST_P(AppearancePanes, AButtonThatIsPressedAgainBeforeItsWindowHasGoneCountsOnc
     });
 }
 
-TEST_P(AppearancePanes, AThemeIsDeleted)
+TEST_P(AppearancePanes, AThemeIsDeletedAndTheKeyboardGoesToTheNextOne)
 {
     inPane(pane().title, [&] {
         saveTheme(night);
         saveTheme(dusk);
         openThemes();
-        if (pane().canRename) {
-            person.click("Delete “night”");
-        } else {
+        if (!pane().canRename) {
             person.click("Delete “night”");
             person.waitForWindow("Delete Theme");
             person.tap(XKB_KEY_Escape);
             person.waitForWindow(pane().listTitle);
             EXPECT_THAT(themes(), HasSubstr("night"));
-            person.click("Delete “night”");
-            person.waitForWindow("Delete Theme");
-            person.click("Delete");
-            person.waitForWindow(pane().listTitle);
         }
-        waitForThemes("the theme to go", [](const auto& text) { return text.find("night") == text.npos; });
+        deleteTheme("night");
         EXPECT_THAT(themes(), HasSubstr("dusk"));
-        session.waitFor("the row to go", [] {
-            return ShellPerson::control("Delete “night”") == nullptr &&
-                   ShellPerson::control("Delete “dusk”") != nullptr;
-        });
+        waitForKeyboard("Delete “dusk”");
+        deleteTheme("dusk");
+        waitForKeyboard("Close");
     });
 }
 
@@ -208,110 +219,6 @@ INSTANTIATE_TEST_SUITE_P(Each, AppearancePanes,
                                               .listTitle = "Move/Resize Themes",
                                               .canRename = true}),
                          [](const auto& each) { return each.param.themesKey; });
-
-class AppearanceControls : public PreferencesTest {
-protected:
-    static constexpr auto grid = "Preview, Show grid";
-
-    void waitForGrid(bool isShown)
-    {
-        session.waitFor("the grid", [&] {
-            const auto* const toggle = qobject_cast<QAbstractButton*>(ShellPerson::control(grid));
-            return toggle != nullptr && toggle->isChecked() == isShown;
-        });
-    }
-};
-
-TEST_F(AppearanceControls, EachStoresWhatItShowsAtOnce)
-{
-    inPane("Layout Appearance", [&] {
-        person.click("Text, Bold");
-        waitUntilStored("isTextBold", {false});
-        person.focus("Text, Bold");
-        person.tap(XKB_KEY_space);
-        waitUntilStored("isTextBold", {true});
-        person.click("Preview, Show grid");
-        waitUntilStored("showPreviewGrid", {true});
-        person.focus("Text, Size");
-        person.tap(XKB_KEY_End);
-        waitUntilStored("textSize", {64.0});
-        person.focus("Text, Label position");
-        person.tap(XKB_KEY_Home);
-        waitUntilStored("labelPosition", {std::string("topLeft")});
-    });
-}
-
-TEST_F(AppearanceControls, TheTogglesOfTheSwitcherStoreTheirStateButNotTheGridOfItsPreview)
-{
-    inPane("Window Switcher Appearance", [&] {
-        person.click("Label, Bold");
-        waitUntilStored("wsTextBold", {false});
-        person.click("Window Info, Show app name and window title");
-        waitUntilStored("showWindowInfo", {false});
-        person.focus("Window Info, Show app name and window title");
-        person.tap(XKB_KEY_space);
-        waitUntilStored("showWindowInfo", {true});
-        person.focus("Default Display Mode, When activating focus switcher");
-        person.tap(XKB_KEY_Down);
-        waitUntilStored("fsDefaultDisplayMode", {std::string("list")});
-
-        const auto before = allStored();
-        person.click(grid);
-        waitForGrid(true);
-        person.tap(XKB_KEY_w, {Modifier::control});
-        session.waitFor("the window to close", [] { return QApplication::activeWindow() == nullptr; });
-        person.openPreferences(*tray);
-        waitForGrid(false);
-        EXPECT_EQ(allStored(), before);
-    });
-}
-
-TEST_F(AppearanceControls, TheTogglesOfMovingAndResizingStoreTheirState)
-{
-    inPane("Move/Resize Appearance", [&] {
-        person.click("Selection Frame, Glow effect");
-        waitUntilStored("mrSelectionGlow", {false});
-        person.click("Snap Target Frame, Glow effect");
-        waitUntilStored("mrSnapTargetGlow", {false});
-        person.click("Behavior, Snap to neighbor windows");
-        waitUntilStored("mrSnapEnabled", {false});
-        person.click("Behavior, Snap to neighbor windows");
-        waitUntilStored("mrSnapEnabled", {true});
-    });
-}
-
-TEST_F(AppearanceControls, AStepperShowsANumberBeyondItsEndsAndCountsFromTheNearerOne)
-{
-    changeFromOutside("mrCornerRadius", whole(60));
-    inPane("Move/Resize Appearance", [&] {
-        const auto shownNumber = [] {
-            const auto* const box = qobject_cast<QSpinBox*>(ShellPerson::control("Corner Radius, Radius (px)"));
-            return box != nullptr ? box->text() : QString();
-        };
-        session.waitFor("the number", [&] { return shownNumber() == "60"; });
-        person.focus("Corner Radius, Radius (px)");
-        person.tap(XKB_KEY_Down);
-        waitUntilStored("mrCornerRadius", whole(49));
-        session.waitFor("the next number", [&] { return shownNumber() == "49"; });
-    });
-}
-
-TEST_F(AppearanceControls, AStepperCountsByOneBetweenItsEnds)
-{
-    inPane("Move/Resize Appearance", [&] {
-        changeFromOutside("mrCornerRadius", whole(49));
-        session.waitFor("the number", [] {
-            const auto* const box = qobject_cast<QSpinBox*>(ShellPerson::control("Corner Radius, Radius (px)"));
-            return box != nullptr && box->value() == 49;
-        });
-        person.focus("Corner Radius, Radius (px)");
-        person.tap(XKB_KEY_Up);
-        person.tap(XKB_KEY_Up);
-        waitUntilStored("mrCornerRadius", whole(50));
-        person.tap(XKB_KEY_Down);
-        waitUntilStored("mrCornerRadius", whole(49));
-    });
-}
 
 } // namespace
 } // namespace quorvel::x11

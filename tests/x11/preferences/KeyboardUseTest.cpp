@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTextDocument>
@@ -17,6 +18,7 @@
 #include <iterator>
 #include <optional>
 #include <set>
+#include <utility>
 
 #include "platform/simulated/SimulatedDesktop.h"
 #include "platform/x11/desktop/ToolkitModule.h"
@@ -292,6 +294,37 @@ TEST_F(KeyboardUseTest, AnAlertShowsEveryCharacterOfItsTexts)
     toolkit.runAlert(alert, {});
     EXPECT_THAT(read, testing::Contains(alert.messageText));
     EXPECT_THAT(read, testing::Contains(alert.informativeText));
+}
+
+TEST_F(KeyboardUseTest, AtItsFirstSizeNoPaneScrolls)
+{
+    for (const auto& tab : controller->content().tabs) {
+        button(tab.title)->click();
+        loop.waitFor("room for all of " + tab.title, [&] {
+            const auto areas = window->findChildren<QScrollArea*>();
+            return std::ranges::all_of(areas, [](const QScrollArea* area) {
+                return !area->isVisible() || area->verticalScrollBar()->maximum() == 0;
+            });
+        });
+    }
+}
+
+TEST_F(KeyboardUseTest, TheFocusStaysWhereItIsWhenAnotherFontMakesAnotherPane)
+{
+    double size = 9.0;
+    for (const auto& [tab, name] : std::vector<std::pair<std::string, std::string>>{
+             {"Shortcuts", "Move/Resize Mode, Move Up: Clear"}, {"Move/Resize Appearance", "Manage Themes…"}}) {
+        SCOPED_TRACE(name);
+        button(tab)->click();
+        const QPointer<QWidget> before = button(name);
+        before->setFocus();
+        style.font = "DejaVu Sans " + std::to_string(++size);
+        styleChanged();
+        loop.waitFor("another pane", [&] { return before == nullptr; });
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        EXPECT_EQ(nameOf(QApplication::focusWidget()), name);
+        loop.waitFor("the control in sight", [&] { return !QApplication::focusWidget()->visibleRegion().isEmpty(); });
+    }
 }
 
 TEST_F(KeyboardUseTest, TheOpenWindowFollowsTheDesktopsColorsAndItsFont)

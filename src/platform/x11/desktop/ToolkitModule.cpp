@@ -46,6 +46,13 @@ std::unique_ptr<ToolkitWindow> ToolkitModule::createAboutWindow(const AboutConte
     return ui != nullptr ? ui->createAboutWindow(content) : nullptr;
 }
 
+void ToolkitModule::endInnerLoops()
+{
+    if (toolkit) {
+        toolkit->endInnerLoops();
+    }
+}
+
 ToolkitUi* ToolkitModule::loaded()
 {
     if (std::exchange(state, State::tried) == State::untried) {

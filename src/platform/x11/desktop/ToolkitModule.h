@@ -27,6 +27,7 @@ public:
     std::unique_ptr<ToolkitWindow> createPreferencesWindow(PreferencesWindowModel& model,
                                                            ToolkitWindowCallbacks callbacks) override;
     std::unique_ptr<ToolkitWindow> createAboutWindow(const AboutContent& content) override;
+    void endInnerLoops() override;
 
 private:
     enum class State { untried, tried };

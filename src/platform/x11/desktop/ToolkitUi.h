@@ -78,6 +78,9 @@ public:
     virtual std::unique_ptr<ToolkitWindow> createPreferencesWindow(PreferencesWindowModel& model,
                                                                    ToolkitWindowCallbacks callbacks) = 0;
     virtual std::unique_ptr<ToolkitWindow> createAboutWindow(const AboutContent& content) = 0;
+
+    // The display has gone: whatever keeps the toolkit in a loop of its own, an alert or a drag, ends with this turn.
+    virtual void endInnerLoops() = 0;
 };
 
 // The function that the toolkit's module exports under toolkitEntryName. The name of the display may be empty for the

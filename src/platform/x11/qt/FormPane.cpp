@@ -16,6 +16,7 @@
 #include "platform/x11/qt/PaneButtons.h"
 #include "platform/x11/qt/PaneMetrics.h"
 #include "platform/x11/qt/QtText.h"
+#include "platform/x11/qt/controls/PreviewWidget.h"
 
 namespace quorvel::x11 {
 
@@ -67,9 +68,11 @@ void FormPane::refresh()
     const Form form = model.form();
     if (std::exchange(isBuildDue, false) || !hasSameShape(form, shown)) {
         build(form);
+    } else {
+        showForm(form);
     }
-    showForm(form);
     shown = form;
+    fitPreview();
     showOverlays(form);
 }
 
@@ -83,17 +86,31 @@ void FormPane::changeEvent(QEvent* event)
     }
 }
 
+void FormPane::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    fitPreview();
+}
+
+// The settings shall not scroll for the sake of a large preview.
+void FormPane::fitPreview()
+{
+    if (preview != nullptr) {
+        const auto* const content = area->widget();
+        const int wanted =
+            content->hasHeightForWidth() ? content->heightForWidth(width()) : content->sizeHint().height();
+        const int others = body->sizeHint().height() - area->sizeHint().height() - preview->sizeHint().height();
+        preview->fitInto(height() - others - wanted);
+    }
+}
+
 void FormPane::build(const Form& form)
 {
-    std::string focused;
-    for (const auto& [id, row] : rows) {
-        if (row.control->isAncestorOf(focusWidget())) {
-            focused = id;
-        }
-    }
+    const KeptFocus focus(focusRows(shown));
     delete body;
     rows.clear();
     buttons.clear();
+    preview = nullptr;
 
     body = new QWidget(this);
     auto* const box = new QVBoxLayout(body);
@@ -106,7 +123,8 @@ void FormPane::build(const Form& form)
         delete content;
         content = createContent(form, Columns::one);
     }
-    box->addWidget(scrolled(content, body), 1);
+    area = scrolled(content, body);
+    box->addWidget(area, 1);
 
     for (const auto& group : form.groups) {
         if (hasPreview(group)) {
@@ -120,9 +138,22 @@ void FormPane::build(const Form& form)
     box->addWidget(createFoot(form));
     layout()->addWidget(body);
     body->show();
-    if (const auto row = rows.find(focused); row != rows.end()) {
-        row->second.control->setFocus();
+    showForm(form); // which enables what may have the keyboard
+    if (auto* const control = focus.restore(focusRows(form))) {
+        QTimer::singleShot(0, control, [this, control] { area->ensureWidgetVisible(control); });
     }
+}
+
+std::vector<FocusRow> FormPane::focusRows(const Form& form) const
+{
+    std::vector<FocusRow> all;
+    for (const auto& group : form.groups) {
+        for (const auto& row : group.rows) {
+            all.emplace_back(row.id, std::vector<QWidget*>{rows.at(row.id).control});
+        }
+    }
+    all.emplace_back("", std::vector<QWidget*>(buttons.begin(), buttons.end()));
+    return all;
 }
 
 QWidget* FormPane::createContent(const Form& form, Columns columns)
@@ -197,7 +228,10 @@ void FormPane::addRow(const FormRow& row, QBoxLayout& box, QWidget* parent)
 {
     auto* const whole = new QWidget(parent);
     auto* const lines = new QVBoxLayout(whole);
-    lines->setContentsMargins(0, paneMetrics::rowSpacing / 2, 0, paneMetrics::rowSpacing / 2);
+    // A title has room around it of its own; what ends in a button or a help line has not.
+    const int below = row.title.empty() || !row.help.empty() ? paneMetrics::rowSpacing : paneMetrics::rowSpacing / 2;
+    const int above = row.title.empty() ? paneMetrics::rowSpacing : paneMetrics::rowSpacing / 2;
+    lines->setContentsMargins(0, above, 0, below);
     lines->setSpacing(0);
 
     RowWidgets widgets;
@@ -206,6 +240,9 @@ void FormPane::addRow(const FormRow& row, QBoxLayout& box, QWidget* parent)
     widgets.title->setMinimumHeight(heightInLines * fontMetrics().height() - paneMetrics::rowSpacing);
     widgets.title->setTextFormat(Qt::PlainText);
     widgets.control = createControlWidget({model, host}, row, whole);
+    if (std::holds_alternative<PreviewControl>(row.control)) {
+        preview = static_cast<PreviewWidget*>(widgets.control);
+    }
     widgets.help = smallText(row.help, whole);
     widgets.title->setBuddy(widgets.control);
 

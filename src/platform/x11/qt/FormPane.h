@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPointer>
+#include <QScrollArea>
 #include <QWidget>
 #include <map>
 #include <string>
@@ -12,6 +13,7 @@
 #include "base/Subscription.h"
 #include "platform/FormModel.h"
 #include "platform/x11/qt/FormShape.h"
+#include "platform/x11/qt/KeptFocus.h"
 #include "platform/x11/qt/LaterCall.h"
 #include "platform/x11/qt/controls/FormControlWidget.h"
 
@@ -19,6 +21,7 @@ namespace quorvel::x11 {
 
 class ListSheetDialog;
 class PaneAlertDialog;
+class PreviewWidget;
 
 // A form with everything that lies over it. Its groups stand in one column or, where they are many, in two; a group
 // with a preview stays in sight under them while they scroll.
@@ -29,6 +32,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct RowWidgets {
@@ -39,11 +43,13 @@ private:
 
     void refresh();
     void build(const Form& form);
+    std::vector<FocusRow> focusRows(const Form& form) const;
     QWidget* createContent(const Form& form, Columns columns);
     void addGroups(const Form& form, Columns columns, QBoxLayout& column);
     QWidget* createGroup(const FormGroup& group, QWidget* parent);
     void addRow(const FormRow& row, QBoxLayout& box, QWidget* parent);
     void showForm(const Form& form);
+    void fitPreview();
     void showOverlays(const Form& form);
     QWidget* createFoot(const Form& form);
 
@@ -53,6 +59,8 @@ private:
     LaterCall refreshing{[this] { refresh(); }}; // a change may come from inside a signal of a widget that goes
     bool isBuildDue = true;
     QWidget* body = nullptr;
+    QScrollArea* area = nullptr;
+    PreviewWidget* preview = nullptr; // null where the form has none
     std::map<std::string, RowWidgets> rows;
     std::vector<QAbstractButton*> buttons;
     QPointer<ListSheetDialog> sheet;

@@ -104,7 +104,7 @@ protected:
     {
         Q_UNUSED(event)
         QPainter painter(this);
-        painter.setPen(palette().color(foregroundRole()));
+        painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading,
                          fontMetrics().elidedText(content, Qt::ElideRight, width()));
     }

@@ -1,9 +1,11 @@
 #include "platform/x11/qt/LayoutTable.h"
 
 #include <QDataStream>
+#include <QDrag>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <utility>
@@ -71,6 +73,20 @@ void LayoutTable::selectRows(const TableSelection& rows)
     viewport()->update();
 }
 
+void LayoutTable::selectionChanged(const QItemSelection& chosen, const QItemSelection& left)
+{
+    QListWidget::selectionChanged(chosen, left);
+    for (int index = 0; index < count(); ++index) {
+        QPalette colors; // its parent's
+        if (item(index)->isSelected()) {
+            colors.setColor(QPalette::WindowText, palette().color(QPalette::HighlightedText));
+        }
+        if (auto* const widget = itemWidget(item(index))) {
+            widget->setPalette(colors);
+        }
+    }
+}
+
 TableSelection LayoutTable::selectedRows() const
 {
     TableSelection rows;
@@ -102,6 +118,44 @@ QMimeData* LayoutTable::mimeData(const QList<QListWidgetItem*>& items) const
     auto* const data = new QMimeData();
     data->setData(text(dragging.type), bytes);
     return data;
+}
+
+// A view by itself knows nothing of the widgets in its rows.
+QPixmap LayoutTable::pictureOf(const QList<QListWidgetItem*>& items) const
+{
+    constexpr int widest = 260;
+    constexpr int mostRows = 4;
+    const int width = std::min(widest, viewport()->width());
+    const auto shownRows = items.first(std::min<qsizetype>(items.size(), mostRows));
+    int height = 0;
+    for (auto* const item : shownRows) {
+        height += visualItemRect(item).height();
+    }
+    QPixmap picture(QSize(width, height) * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(palette().color(QPalette::Highlight));
+    QPainter painter(&picture);
+    int top = 0;
+    for (auto* const item : shownRows) {
+        itemWidget(item)->render(&painter, QPoint(0, top), QRegion(0, 0, width, visualItemRect(item).height()),
+                                 QWidget::DrawChildren);
+        top += visualItemRect(item).height();
+    }
+    return picture;
+}
+
+void LayoutTable::startDrag(Qt::DropActions supported)
+{
+    constexpr QPoint besideThePointer(-16, -12); // where the rows to drop between stay in sight
+    auto items = selectedItems();
+    std::ranges::sort(items, {}, [this](const QListWidgetItem* item) { return row(item); });
+    if (!items.isEmpty()) {
+        auto* const drag = new QDrag(this);
+        drag->setMimeData(mimeData(items));
+        drag->setPixmap(pictureOf(items));
+        drag->setHotSpot(besideThePointer);
+        drag->exec(supported, Qt::MoveAction);
+    }
 }
 
 LayoutsPaneModel::DragSource LayoutTable::sourceOf(const QDropEvent& event) const

@@ -45,6 +45,8 @@ public:
     void selectRows(const TableSelection& rows);
 
 protected:
+    void selectionChanged(const QItemSelection& chosen, const QItemSelection& left) override;
+    void startDrag(Qt::DropActions supported) override;
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QList<QListWidgetItem*>& items) const override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -53,6 +55,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QPixmap pictureOf(const QList<QListWidgetItem*>& items) const;
     LayoutsPaneModel::DragSource sourceOf(const QDropEvent& event) const;
     std::size_t rowBefore(const QPoint& position) const;
     TableSelection selectedRows() const;

@@ -83,6 +83,7 @@ void ListSheetDialog::reject()
 
 void ListSheetDialog::fillList(const ListSheet& sheet)
 {
+    const KeptFocus focus(focusRows());
     delete list->layout();
     qDeleteAll(list->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
     auto* const box = new QVBoxLayout(list);
@@ -92,10 +93,24 @@ void ListSheetDialog::fillList(const ListSheet& sheet)
         box->addStretch(1);
         box->addWidget(createPlaceholder(sheet.placeholder));
     }
+    rows.clear();
     for (const auto& row : sheet.rows) {
-        box->addWidget(createRow(row));
+        rows.emplace_back(row.id, createRow(row));
+        box->addWidget(rows.back().second);
+        rows.back().second->show(); // what is hidden cannot be given the keyboard
     }
     box->addStretch(1);
+    focus.restore(focusRows());
+}
+
+std::vector<FocusRow> ListSheetDialog::focusRows() const
+{
+    std::vector<FocusRow> all;
+    for (const auto& [id, row] : rows) {
+        all.emplace_back(id, std::vector{row});
+    }
+    all.emplace_back("", std::vector<QWidget*>{closeButton});
+    return all;
 }
 
 QWidget* ListSheetDialog::createRow(const ListSheetRow& row)

@@ -6,8 +6,11 @@
 #include <QVBoxLayout>
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/ListSheet.h"
+#include "platform/x11/qt/KeptFocus.h"
 
 namespace quorvel::x11 {
 
@@ -25,11 +28,13 @@ private:
     QWidget* createRow(const ListSheetRow& row);
     QWidget* createPlaceholder(const ListSheetPlaceholder& placeholder);
     void fillList(const ListSheet& sheet);
+    std::vector<FocusRow> focusRows() const;
 
     Press press;
     ListSheet shown;
     QLabel* title;
     QWidget* list = nullptr;
+    std::vector<std::pair<std::string, QWidget*>> rows; // by their ids, as the list shows them
     QLabel* footer;
     QAbstractButton* closeButton;
 };

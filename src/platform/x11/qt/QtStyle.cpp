@@ -7,6 +7,7 @@
 
 #include "platform/x11/painting/CairoHandles.h"
 #include "platform/x11/qt/Palettes.h"
+#include "platform/x11/qt/PaneStyle.h"
 
 namespace quorvel::x11 {
 
@@ -37,7 +38,7 @@ QtStyle::QtStyle(const ToolkitHost& host)
     if (!host.style || !host.observeStyle) {
         return;
     }
-    QApplication::setStyle("fusion");
+    QApplication::setStyle(new PaneStyle()); // which the application then owns
     apply(host.style());
     changes = host.observeStyle([this, &host] {
         if (const auto style = host.style(); style != applied) {

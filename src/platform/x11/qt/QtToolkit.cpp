@@ -12,6 +12,7 @@
 
 #include "platform/x11/qt/QtAboutWindow.h"
 #include "platform/x11/qt/QtPreferencesWindow.h"
+#include "platform/x11/qt/QtServerLoss.h"
 #include "platform/x11/qt/QtText.h"
 
 namespace quorvel::x11 {
@@ -77,6 +78,7 @@ QtToolkit::QtToolkit(const char* displayName, const ToolkitHost& host)
     QApplication::setApplicationName("quorvel");
     QApplication::setQuitOnLastWindowClosed(false);
     application.installEventFilter(&keyDownFilter);
+    sayServerLossInOneLine();
     if (!hasPlatformTheme()) {
         style.emplace(host);
     }
@@ -93,6 +95,12 @@ std::unique_ptr<ToolkitWindow> QtToolkit::createPreferencesWindow(PreferencesWin
 std::unique_ptr<ToolkitWindow> QtToolkit::createAboutWindow(const AboutContent& content)
 {
     return std::make_unique<QtAboutWindow>(content, host);
+}
+
+void QtToolkit::endInnerLoops()
+{
+    sayNoServerLoss();
+    QApplication::exit();
 }
 
 void QtToolkit::openMenu(const Menu& content, std::function<void(MenuCommand)> onCommand)

@@ -25,6 +25,7 @@ public:
     std::unique_ptr<ToolkitWindow> createPreferencesWindow(PreferencesWindowModel& model,
                                                            ToolkitWindowCallbacks callbacks) override;
     std::unique_ptr<ToolkitWindow> createAboutWindow(const AboutContent& content) override;
+    void endInnerLoops() override;
 
 private:
     // Qt wants the arguments of a program, changes them, and keeps pointing at them.

@@ -1,7 +1,9 @@
 #include "platform/x11/qt/controls/PreviewWidget.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/x11/desktop/ToolkitUi.h"
 #include "platform/x11/qt/DrawListPainting.h"
@@ -26,13 +28,27 @@ void PreviewWidget::showRow(const FormRow& row)
 
 QSize PreviewWidget::sizeHint() const
 {
-    return {static_cast<int>(std::ceil(preview.size.width)), static_cast<int>(std::ceil(preview.size.height))};
+    return {static_cast<int>(std::ceil(scale * preview.size.width)),
+            static_cast<int>(std::ceil(scale * preview.size.height))};
+}
+
+void PreviewWidget::fitInto(int height)
+{
+    constexpr double smallest = 0.6;
+    const double fitting = std::clamp(height / preview.size.height, smallest, 1.0);
+    if (std::exchange(scale, fitting) != fitting) {
+        updateGeometry();
+        update();
+    }
 }
 
 void PreviewWidget::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
-    QPainter(this).drawImage(0, 0, drawnImage(preview.content, preview.size, devicePixelRatioF(), host().textLayouts));
+    const double ratio = devicePixelRatioF();
+    QImage image = drawnImage(preview.content, preview.size, scale * ratio, host().textLayouts);
+    image.setDevicePixelRatio(ratio);
+    QPainter(this).drawImage(0, 0, image);
 }
 
 } // namespace quorvel::x11

@@ -4,7 +4,7 @@
 
 namespace quorvel::x11 {
 
-// A picture, drawn by the painter of the overlays.
+// A picture, drawn by the painter of the overlays; smaller where there is no room for all of it.
 class PreviewWidget final : public FormControlWidget {
 public:
     PreviewWidget(const ControlPane& pane, const FormRow& row, QWidget* parent);
@@ -12,11 +12,15 @@ public:
     void showRow(const FormRow& row) override;
     QSize sizeHint() const override;
 
+    // As high as that, but neither larger than the picture is meant to be nor too small to be read.
+    void fitInto(int height);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     PreviewControl preview;
+    double scale = 1.0;
 };
 
 } // namespace quorvel::x11
