@@ -1,14 +1,16 @@
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 #include "e2e/ProgramTest.h"
-#include "support/SystemTray.h"
+#include "e2e/TrayMenu.h"
 
 namespace quorvel::e2e {
 namespace {
 
 using testing::ContainsRegex;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using xtest::PixelRect;
 using Modifier = xtest::KeyInjector::Modifier;
@@ -21,33 +23,9 @@ protected:
         if (!xtest::SystemTray::isInstalled()) {
             GTEST_SKIP() << "needs trayer";
         }
-        tray = std::make_unique<xtest::SystemTray>(display.server, display.client, screen);
+        menu.emplace(display, screen);
         // With somewhere to look for updates every entry of the menu down to the preferences can be chosen.
         start({.environment = {{"QUORVEL_UPDATE_FEED", "http://127.0.0.1:9/"}}});
-    }
-
-    // Entries of the tray's menu, counted from the top.
-    enum class Entry { about, checkForUpdates, preferences };
-
-    void chooseFromTray(Entry entry)
-    {
-        const pid_t program = quorvel->program().id();
-        std::optional<PixelRect> icon;
-        display.client.waitFor("the icon in the tray", [&] { return (icon = tray->iconOf(program)).has_value(); });
-        bool hasKeyboard = false;
-        display.client.observeEvents([&](const xcb_generic_event_t& event) {
-            // A grab takes the focus from the window that has it, in a way that the event tells.
-            hasKeyboard =
-                hasKeyboard || ((event.response_type & 0x7F) == XCB_FOCUS_OUT &&
-                                reinterpret_cast<const xcb_focus_out_event_t&>(event).mode == XCB_NOTIFY_MODE_GRAB);
-        });
-        display.keyboard.click(icon->x + icon->width / 2, icon->y + icon->height / 2);
-        display.client.waitFor("the menu to take the keyboard", [&] { return hasKeyboard; });
-        display.client.observeEvents(nullptr);
-        for (int row = 0; row <= static_cast<int>(entry); ++row) {
-            display.keyboard.tap(XKB_KEY_Down);
-        }
-        display.keyboard.tap(XKB_KEY_Return);
     }
 
     std::vector<xcb_window_t> windowsTitled(const std::string& title)
@@ -80,7 +58,7 @@ protected:
 
     xcb_window_t openPreferences()
     {
-        chooseFromTray(Entry::preferences);
+        menu->choose(TrayMenu::Entry::preferences, *quorvel);
         return waitForWindow("Preferences");
     }
 
@@ -132,7 +110,7 @@ protected:
         return text.str();
     }
 
-    std::unique_ptr<xtest::SystemTray> tray;
+    std::optional<TrayMenu> menu;
 };
 
 TEST_F(PreferencesJourney, QtIsLoadedByTheFirstWindowAndNotBefore)
@@ -170,9 +148,26 @@ TEST_F(PreferencesJourney, HotKeysRestWhileThePreferencesAreOpenAndComeBackByEve
 TEST_F(PreferencesJourney, TheProgramMayEndWithItsWindowsOpen)
 {
     openPreferences();
-    chooseFromTray(Entry::about);
+    menu->choose(TrayMenu::Entry::about, *quorvel);
     waitForWindow("About Quorvel");
     endCleanly();
+}
+
+TEST_F(PreferencesJourney, AServerThatGoesAwayEndsTheProgramWithALine)
+{
+    openPreferences();
+    display.server.kill();
+    EXPECT_EQ(quorvel->program().waitForEnd(), 1);
+    EXPECT_THAT(quorvel->program().errorLines(), ElementsAre(HasSubstr("X server")));
+}
+
+TEST_F(PreferencesJourney, AServerThatGoesAwayUnderAnAlertEndsTheProgramWithALine)
+{
+    menu->choose(TrayMenu::Entry::checkForUpdates, *quorvel); // nobody answers there
+    waitForWindow("Quorvel");
+    display.server.kill();
+    EXPECT_EQ(quorvel->program().waitForEnd(), 1);
+    EXPECT_THAT(quorvel->program().errorLines(), ElementsAre(HasSubstr("X server")));
 }
 
 TEST_F(PreferencesJourney, ThePreferencesAreOneWindowThatComesBackToTheFront)
@@ -216,7 +211,7 @@ TEST_F(PreferencesJourney, ThePreferencesStandInTheMiddleAndNeverGetSmallerThanT
 TEST_F(PreferencesJourney, TheAboutWindowOpensFromTheTrayAndClosesByTheKeyboard)
 {
     for (const bool byEscape : {true, false}) {
-        chooseFromTray(Entry::about);
+        menu->choose(TrayMenu::Entry::about, *quorvel);
         waitForWindow("About Quorvel");
         display.keyboard.tap(byEscape ? std::vector<Modifier>{} : std::vector{Modifier::control},
                              byEscape ? XKB_KEY_Escape : XKB_KEY_w);

@@ -23,8 +23,7 @@ Album::Album(const Look& look, const std::filesystem::path& program, const std::
 {
     display.client.watchPainting();
     display.startWindowManager(xtest::WindowManager::openbox);
-    tray = std::make_unique<xtest::SystemTray>(display.server, display.client,
-                                               xtest::PixelRect{0, 0, screen.width, screen.height});
+    menu.emplace(display, xtest::PixelRect{0, 0, screen.width, screen.height});
     quorvel = std::make_unique<e2e::RunningQuorvel>(
         display, program, configuration,
         // With somewhere to look for updates everything in the menu and in the panes can be chosen.
@@ -34,7 +33,7 @@ Album::Album(const Look& look, const std::filesystem::path& program, const std::
 void Album::fill()
 {
     takeAbout();
-    preferences = open(Entry::preferences);
+    preferences = open(e2e::TrayMenu::Entry::preferences);
     takeShortcuts();
     takeTabs();
     takeThemes();
@@ -43,7 +42,7 @@ void Album::fill()
 
 void Album::takeAbout()
 {
-    const auto about = open(Entry::about);
+    const auto about = open(e2e::TrayMenu::Entry::about);
     takePicture("about", about);
     tap(XKB_KEY_Escape);
     display.client.waitFor("the About window to close", [&] { return !display.client.isViewable(about); });
@@ -102,27 +101,12 @@ void Album::takeColors()
     expectWindow([&] { tap(XKB_KEY_Escape); });
 }
 
-xcb_window_t Album::open(Entry entry)
+xcb_window_t Album::open(e2e::TrayMenu::Entry entry)
 {
-    const pid_t program = quorvel->program().id();
-    display.client.waitFor("the icon in the tray", [&] { return tray->iconOf(program).has_value(); });
+    menu->waitForIcon(*quorvel);
     // A tray goes on arranging itself for a moment.
     e2e::stillPicture(display.client, {0, 0, screen.width, screen.height});
-    const auto icon = tray->iconOf(program);
-    bool hasKeyboard = false;
-    display.client.observeEvents([&](const xcb_generic_event_t& event) {
-        // A grab takes the focus from whoever has it, in a way that the event tells.
-        hasKeyboard =
-            hasKeyboard || ((event.response_type & 0x7FU) == XCB_FOCUS_OUT &&
-                            reinterpret_cast<const xcb_focus_out_event_t&>(event).mode == XCB_NOTIFY_MODE_GRAB);
-    });
-    display.keyboard.click(icon->x + icon->width / 2, icon->y + icon->height / 2);
-    display.client.waitFor("the menu to take the keyboard", [&] { return hasKeyboard; });
-    display.client.observeEvents(nullptr);
-    return expectWindow([&] {
-        tap(XKB_KEY_Down, static_cast<int>(entry) + 1);
-        tap(XKB_KEY_Return);
-    });
+    return expectWindow([&] { menu->choose(entry, *quorvel); });
 }
 
 xcb_window_t Album::expectWindow(const std::function<void()>& action)

@@ -3,11 +3,12 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "e2e/RunningQuorvel.h"
+#include "e2e/TrayMenu.h"
 #include "support/SettingsDaemon.h"
-#include "support/SystemTray.h"
 #include "support/TemporaryDirectory.h"
 #include "support/TestDisplay.h"
 
@@ -34,11 +35,8 @@ private:
     void takeShortcuts();
     void takeAbout();
 
-    // Entries of the tray's menu, counted from the top.
-    enum class Entry { about, checkForUpdates, preferences };
-
     // Chooses the entry and waits for its window.
-    xcb_window_t open(Entry entry);
+    xcb_window_t open(e2e::TrayMenu::Entry entry);
 
     // Does something and waits until another window of the program is in front; returns it.
     xcb_window_t expectWindow(const std::function<void()>& action);
@@ -55,7 +53,7 @@ private:
     std::filesystem::path folder;
     xtest::TestDisplay display;
     xtest::SettingsDaemon daemon;
-    std::unique_ptr<xtest::SystemTray> tray;
+    std::optional<e2e::TrayMenu> menu;
     xtest::TemporaryDirectory configuration;
     std::unique_ptr<e2e::RunningQuorvel> quorvel;
     xcb_window_t preferences = XCB_NONE;
