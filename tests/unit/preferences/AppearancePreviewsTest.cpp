@@ -99,7 +99,7 @@ TEST_F(AppearancePreviewsTest, TheSwitcherPanesSampleIsMadeOfTheSwitchersOwnView
     pane.set("wsBorderWidth", 6.0);
     const auto preview = previewOf(pane);
     const auto appearance = switcherAppearance(settings);
-    EXPECT_TRUE(shows(preview, WindowBorderOverlay{appearance}.body({600.0, 220.0}, environment), {20.0, 20.0}));
+    EXPECT_TRUE(shows(preview, WindowBorderOverlay{appearance}.body({600.0, 180.0}, environment), {20.0, 20.0}));
     const CompactLabelView label{
         .label = "A", .appName = "Safari", .windowTitle = "Example Window Title", .appearance = appearance};
     // 20 × 0.7 × 20 characters × 0.5 + 60 wide, 20 × 3.5 + 60 high, 16 points in from the window's corner.
@@ -117,7 +117,7 @@ TEST_F(AppearancePreviewsTest, TheSwitcherPanesSampleFollowsTheLabelsPosition)
                                  .windowTitle = "Example Window Title",
                                  .appearance = switcherAppearance(settings)};
     EXPECT_TRUE(shows(previewOf(pane), label.body({200.0, 130.0}, environment),
-                      {20.0 + 600.0 - 200.0 - 16.0, 20.0 + 220.0 - 130.0 - 16.0}));
+                      {20.0 + 600.0 - 200.0 - 16.0, 20.0 + 180.0 - 130.0 - 16.0}));
 }
 
 TEST_F(AppearancePreviewsTest, WithoutWindowInfoTheSampleHasItsLetterOnly)
