@@ -24,7 +24,7 @@ public:
         : store(x11::SettingsFile(file), [](std::string_view) {}),
           webClient(x11::WebClient::standardFile(), ports.mainQueue),
           updater({webClient, ports.mainQueue, store, ports.alerts, ports.workspace, ports.dates,
-                   "http://127.0.0.1:1/appcast.xml", "1.0"})
+                   "http://127.0.0.1:1/appcast.xml", "1.0", "linux"})
     {}
 
     std::unique_ptr<UpdaterController> createController() override { return updater.createController(); }
