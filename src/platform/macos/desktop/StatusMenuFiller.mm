@@ -5,9 +5,11 @@
 #include "platform/macos/Retained.h"
 #include "platform/macos/Strings.h"
 
-using namespace quorvel;
-using macos::nsString;
-using macos::Retained;
+// Carbon has a MenuCommand, too, so these come one by one.
+using quorvel::Menu;
+using quorvel::MenuItem;
+using quorvel::macos::nsString;
+using quorvel::macos::Retained;
 
 namespace {
 
@@ -22,7 +24,7 @@ Retained<NSMenuItem*> createItem(std::string_view title, SEL action, std::string
 
 @implementation QuorvelStatusMenuFiller
 
-- (void)setMenu:(const Menu&)menu onCommand:(std::function<void(MenuCommand)>)newOnCommand
+- (void)setMenu:(const Menu&)menu onCommand:(std::function<void(quorvel::MenuCommand)>)newOnCommand
 {
     content = menu;
     onCommand = std::move(newOnCommand);
@@ -65,7 +67,7 @@ Retained<NSMenuItem*> createItem(std::string_view title, SEL action, std::string
 
 - (void)choose:(NSMenuItem*)item
 {
-    onCommand(static_cast<MenuCommand>([item tag]));
+    onCommand(static_cast<quorvel::MenuCommand>([item tag]));
 }
 
 @end
