@@ -95,4 +95,9 @@ std::map<NSView*, BOOL> clipping;
     FakeDesktop::current().desktop.workspace.activateSelf();
 }
 
+- (void)terminate:(id)sender
+{
+    FakeDesktop::current().desktop.workspace.terminate();
+}
+
 @end

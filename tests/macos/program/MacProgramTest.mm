@@ -1,16 +1,6 @@
-#include "main/MacProgram.h"
-
-#include <optional>
-#include <string>
-#include <vector>
-
-#import <AppKit/AppKit.h>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "base/Keys.h"
-#include "contract/macos/BundleFolder.h"
-#include "macos/fakes/FakeDesktop.h"
+#include "macos/program/MacProgramFixture.h"
 
 namespace quorvel {
 namespace {
@@ -22,55 +12,7 @@ using testing::SizeIs;
 constexpr KeyCode o = 31;
 constexpr std::uint64_t commandShift = eventFlags::command | eventFlags::shift;
 
-// The whole program over the fake desktop, from its construction on. One screen, one window in front.
-class MacProgramTest : public testing::Test {
-protected:
-    MacProgramTest()
-    {
-        [NSApplication sharedApplication];
-        program.emplace(folder.bundle());
-    }
-
-    // Until nothing waits any more, neither in the run loop nor in the main queue.
-    void settle()
-    {
-        for (int turn = 0; turn < 3; ++turn) {
-            @autoreleasepool {
-                [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:[NSDate distantPast]];
-            }
-            desktop.drain();
-        }
-    }
-
-    void launch()
-    {
-        program->applicationDidFinishLaunching();
-        settle();
-        desktop.journal.clear();
-    }
-
-    void type(KeyCode keyCode, std::uint64_t flags = 0)
-    {
-        desktop.press(keyCode, flags);
-        settle();
-    }
-
-    static int shownWindows()
-    {
-        int count = 0;
-        for (NSWindow* window in [NSApp windows]) {
-            count += [window isVisible] ? 1 : 0;
-        }
-        return count;
-    }
-
-    SimulatedDesktop desktop;
-    fakes::FakeDesktop mac{desktop};
-    SimulatedApplication& editor = desktop.launch("Editor");
-    SimulatedWindow& window = desktop.openWindow(editor, "Notes", {100, 100, 800, 600});
-    contract::BundleFolder folder;
-    std::optional<MacProgram> program;
-};
+class MacProgramTest : public MacProgramFixture {};
 
 TEST_F(MacProgramTest, HotKeysWorkFromTheConstructionOn)
 {
