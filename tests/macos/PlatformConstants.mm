@@ -14,6 +14,7 @@
 #include "platform/EventTaps.h"
 #include "platform/HotKeys.h"
 #include "platform/LoginItem.h"
+#include "platform/OverlayWindows.h"
 
 namespace quorvel {
 
@@ -104,6 +105,7 @@ static_assert(NSUpArrowFunctionKey == 0xF700);
 
 // AppKit: windows and panels
 static_assert(NSBackingStoreBuffered == 2);
+static_assert(NSWindowCollectionBehaviorCanJoinAllSpaces == collectionBehaviors::canJoinAllSpaces);
 static_assert(NSWindowDocumentIconButton == 4);
 static_assert(NSWindowStyleMaskClosable == 0x2);
 static_assert(NSWindowStyleMaskFullSizeContentView == 0x8000);
@@ -111,6 +113,8 @@ static_assert(NSWindowStyleMaskTitled == 0x1);
 
 // AppKit: controls
 static_assert(NSAlertFirstButtonReturn == 1000);
+static_assert(NSAlertStyleInformational == 1);
+static_assert(NSAlertStyleWarning == 0);
 static_assert(NSAlertStyleInformational == 1);
 static_assert(NSAlertStyleWarning == 0);
 static_assert(NSBoxCustom == 4);
@@ -145,7 +149,13 @@ static_assert(NSTextAlignmentLeft == 0);
 #ifndef GNUSTEP
 static_assert(static_cast<std::uint64_t>(NSEventModifierFlagDeviceIndependentFlagsMask) ==
               eventFlags::deviceIndependentMask);
+static_assert(NSNormalWindowLevel == windowLevels::normal);
+static_assert(NSFloatingWindowLevel == windowLevels::floating);
+static_assert(NSStatusWindowLevel == windowLevels::status);
+static_assert(NSPopUpMenuWindowLevel == windowLevels::popUpMenu);
 static_assert(NSWindowAnimationBehaviorNone == 2);
+static_assert(NSWindowCollectionBehaviorFullScreenAuxiliary == collectionBehaviors::fullScreenAuxiliary);
+static_assert(NSWindowCollectionBehaviorIgnoresCycle == collectionBehaviors::ignoresCycle);
 static_assert(NSWindowToolbarStyleUnified == 3);
 static_assert(NSBezelStyleRounded == 1);
 static_assert(NSButtonTypeMomentaryChange == 5);
