@@ -115,8 +115,6 @@ static_assert(NSWindowStyleMaskTitled == 0x1);
 static_assert(NSAlertFirstButtonReturn == 1000);
 static_assert(NSAlertStyleInformational == 1);
 static_assert(NSAlertStyleWarning == 0);
-static_assert(NSAlertStyleInformational == 1);
-static_assert(NSAlertStyleWarning == 0);
 static_assert(NSBoxCustom == 4);
 static_assert(NSBoxSeparator == 2);
 static_assert(NSControlStateValueOff == 0);
