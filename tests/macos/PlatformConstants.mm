@@ -158,8 +158,9 @@ static_assert(NSWindowToolbarStyleUnified == 3);
 static_assert(NSBezelStyleRounded == 1);
 static_assert(NSButtonTypeMomentaryChange == 5);
 static_assert(NSButtonTypeMomentaryPushIn == 7);
-static_assert(NSTextAlignmentCenter == 1);
-static_assert(NSTextAlignmentRight == 2);
 #endif
+
+// The two change places between Apple's processors.
+static_assert(NSTextAlignmentCenter + NSTextAlignmentRight == 3);
 
 } // namespace quorvel
