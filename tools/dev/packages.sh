@@ -24,7 +24,7 @@ debianPackages() {
         ;;
     macos)
         echo clang-19 libclang-rt-19-dev libgnustep-gui-dev gnustep-back0.29-cairo libblocksruntime-dev
-        echo xvfb xauth fonts-dejavu-core
+        echo fonts-dejavu-core
         echo llvm python3 python3-yaml # for the check against Apple's headers
         ;;
     bench)
