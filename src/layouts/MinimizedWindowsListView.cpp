@@ -54,7 +54,8 @@ struct ListLayout {
 
     ViewRect row(std::size_t index) const
     {
-        const auto column = static_cast<double>(index / rows);
+        const auto columnsBefore = index / rows;
+        const auto column = static_cast<double>(columnsBefore);
         const auto line = static_cast<double>(index % rows);
         return {padding + column * (columnWidth() + columnGap), rowsTop() + line * (rowHeight + spacing), columnWidth(),
                 rowHeight};

@@ -34,7 +34,7 @@ void ShortcutPreferencesViewModel::stopRecording()
     recordingChanged.emit();
 }
 
-void ShortcutPreferencesViewModel::clear()
+void ShortcutPreferencesViewModel::clear() const
 {
     actions.setKeyCode(0);
     actions.setModifiers(0);

@@ -33,7 +33,7 @@ public:
     void toggleRecording();
     void stopRecording();
 
-    void clear();
+    void clear() const;
 
 private:
     void startRecording();

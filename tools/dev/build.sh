@@ -28,8 +28,8 @@ leaveProgram() {
 buildProgram() {
     local preset=$1
     configure "$preset"
-    if [[ $preset == core ]]; then
-        buildTargets core all # no program of its own: the portable part and the in-memory desktop
+    if [[ $preset == core* ]]; then
+        buildTargets "$preset" all # no program of its own: the portable part and the in-memory desktop
         return
     fi
     if isMac; then

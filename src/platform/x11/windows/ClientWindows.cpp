@@ -91,6 +91,7 @@ void ClientWindows::readOrder()
     read(windows);
     std::erase_if(windows, [this](xcb_window_t window) { return !snapshots[window]; });
     std::vector<xcb_window_t> parents;
+    parents.reserve(windows.size());
     for (const auto window : windows) {
         parents.push_back(snapshots[window]->parent);
     }
@@ -100,6 +101,7 @@ void ClientWindows::readOrder()
         heights.emplace(topLevel, heights.size());
     }
     std::vector<std::pair<std::size_t, xcb_window_t>> ranked;
+    ranked.reserve(windows.size());
     for (std::size_t i = 0; i < windows.size(); ++i) {
         ranked.emplace_back(heights[ancestors[i]], windows[i]);
     }

@@ -271,9 +271,11 @@ void WindowReader::readIdentities(std::span<const xcb_window_t> windows)
         auto& identity = identities[source.window].identity;
         identity.kind = kindOf(cardinals(source.type.take().get()));
         const auto wmClass = text(source.wmClass.take().get());
-        identity.instance = wmClass.c_str();
-        if (identity.instance.size() + 1 < wmClass.size()) {
-            identity.className = wmClass.c_str() + identity.instance.size() + 1;
+        // Two texts, each with a zero at its end.
+        const auto end = std::min(wmClass.find('\0'), wmClass.size());
+        identity.instance = wmClass.substr(0, end);
+        if (end + 1 < wmClass.size()) {
+            identity.className = wmClass.substr(end + 1, wmClass.find('\0', end + 1) - end - 1);
         }
         const auto named = static_cast<ProcessId>(cardinal(source.namedProcess.take().get()));
         const auto stranger = named > 0 ? named : clientNumber(source.window);

@@ -99,6 +99,7 @@ bool X11Workspace::open(std::string_view address)
 void X11Workspace::relaunch(std::function<void()> completion)
 {
     std::vector<char*> arguments;
+    arguments.reserve(lifecycle.relaunchCommand.size() + 1);
     for (auto& argument : lifecycle.relaunchCommand) {
         arguments.push_back(argument.data());
     }
