@@ -132,6 +132,7 @@ static_assert(NSSegmentSwitchTrackingSelectOne == 0);
 static_assert(NSTabViewControllerTabStyleToolbar == 2);
 static_assert(NSTableViewDropAbove == 1);
 static_assert(NSTableViewUniformColumnAutoresizingStyle == 1);
+static_assert(NSViewHeightSizable == 16);
 static_assert(NSViewMaxYMargin == 32);
 static_assert(NSViewMinYMargin == 8);
 static_assert(NSViewWidthSizable == 2);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "contract/macos/BundleFolder.h"
+#include "contract/macos/MacSessionVerbs.h"
 #include "contract/simulated/SimulatedContractDesktop.h"
+#include "macos/compat/Pool.h"
 #include "macos/fakes/FakeDesktop.h"
 #include "platform/StandardOutputLog.h"
 #include "platform/macos/desktop/MacAlerts.h"
@@ -22,6 +24,7 @@
 #include "platform/macos/keys/MacKeyboardLayout.h"
 #include "platform/macos/overlays/MacOverlayWindows.h"
 #include "platform/macos/overlays/MacTextMetrics.h"
+#include "platform/macos/preferences/MacPreferencesUi.h"
 #include "platform/macos/windows/MacAccessibility.h"
 #include "platform/macos/windows/MacWindowList.h"
 #include "platform/macos/windows/MacWorkspace.h"
@@ -46,6 +49,7 @@ public:
 
 private:
     fakes::FakeDesktop fake{desktop};
+    fakes::Pool pool; // windows in it go before the desktop that they are on
     BundleFolder bundleFolder;
     macos::MacBundle bundle{bundleFolder.bundle()};
     macos::MacLoginItem loginItem;
@@ -69,6 +73,8 @@ private:
     macos::MacEventMonitors eventMonitors;
     macos::MacKeyboardLayout keyboardLayout;
     macos::MacPermissions permissions{workspace};
+    macos::MacPreferencesUi preferencesUi{mainQueue};
+    MacSessionVerbs session{desktop};
     StandardOutputLog log;
 };
 

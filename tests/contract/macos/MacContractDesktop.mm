@@ -49,9 +49,10 @@ ContractPorts MacContractDesktop::ports()
             .statusBar = &statusBar,
             .permissions = &permissions,
             .alerts = &alerts,
+            .preferencesUi = &preferencesUi,
             .loginItem = &loginItem,
             .updater = updater.get(),
-            .session = SimulatedContractDesktop::ports().session};
+            .session = &session};
 }
 
 bool MacContractDesktop::can(Capability capability) const

@@ -9,7 +9,6 @@
 #include <ranges>
 #include <utility>
 
-#include "platform/x11/qt/FormShape.h"
 #include "platform/x11/qt/GroupFrame.h"
 #include "platform/x11/qt/ListSheetDialog.h"
 #include "platform/x11/qt/PaneAlertDialog.h"

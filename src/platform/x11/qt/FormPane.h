@@ -12,7 +12,7 @@
 
 #include "base/Subscription.h"
 #include "platform/FormModel.h"
-#include "platform/x11/qt/FormShape.h"
+#include "platform/FormShape.h"
 #include "platform/x11/qt/KeptFocus.h"
 #include "platform/x11/qt/LaterCall.h"
 #include "platform/x11/qt/controls/FormControlWidget.h"

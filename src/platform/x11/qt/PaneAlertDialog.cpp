@@ -9,6 +9,7 @@
 #include <ranges>
 #include <utility>
 
+#include "platform/FormShape.h"
 #include "platform/x11/qt/FocusMarking.h"
 #include "platform/x11/qt/PaneButtons.h"
 #include "platform/x11/qt/PaneMetrics.h"
@@ -76,11 +77,7 @@ PaneAlertDialog::PaneAlertDialog(const PaneAlert& alert, Press press, const SetT
 
 bool PaneAlertDialog::isFor(const PaneAlert& alert) const
 {
-    PaneAlert same = alert;
-    if (same.field && shown.field && same.field->id == shown.field->id) {
-        same.field->text = shown.field->text;
-    }
-    return same == shown;
+    return isSameQuestion(alert, shown);
 }
 
 void PaneAlertDialog::reject()

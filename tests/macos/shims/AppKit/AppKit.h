@@ -9,6 +9,7 @@
 #define YES __objc_yes
 #define NO __objc_no
 
+#import <AppKit/Controls.h>
 #import <AppKit/Desktop.h>
 #import <AppKit/Events.h>
 #import <AppKit/StatusBar.h>

@@ -1,9 +1,9 @@
-#include "platform/x11/qt/FormShape.h"
+#include "platform/FormShape.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace quorvel::x11 {
+namespace quorvel {
 
 namespace {
 
@@ -88,6 +88,15 @@ bool hasSameShape(const Form& one, const Form& other)
            std::ranges::equal(one.buttons, other.buttons, areSameButtons);
 }
 
+bool isSameQuestion(const PaneAlert& one, const PaneAlert& other)
+{
+    PaneAlert same = other;
+    if (same.field && one.field && same.field->id == one.field->id) {
+        same.field->text = one.field->text;
+    }
+    return same == one;
+}
+
 bool hasPreview(const FormGroup& group)
 {
     return std::ranges::any_of(group.rows,
@@ -123,4 +132,4 @@ bool hasOverlayControl(const Form& form, std::string_view id)
     return isOfAlert || isOfSheet;
 }
 
-} // namespace quorvel::x11
+} // namespace quorvel

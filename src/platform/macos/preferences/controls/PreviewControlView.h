@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/macos/Retained.h"
+#include "platform/macos/overlays/DrawListView.h"
+#include "platform/macos/preferences/controls/FormControlView.h"
+
+namespace quorvel::macos {
+
+// A picture, drawn by the painter of the overlays.
+class PreviewControlView final : public FormControlView {
+public:
+    PreviewControlView(FormModel& model, const FormRow& row);
+
+    void show(const FormRow& row) override;
+    NSView* view() const override { return picture.get(); }
+    NSView* keyView() const override { return nil; }
+
+private:
+    Retained<QuorvelDrawListView*> picture;
+};
+
+} // namespace quorvel::macos
