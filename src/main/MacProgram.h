@@ -26,6 +26,7 @@
 #include "platform/macos/keys/MacKeyboardLayout.h"
 #include "platform/macos/overlays/MacOverlayWindows.h"
 #include "platform/macos/overlays/MacTextMetrics.h"
+#include "platform/macos/preferences/MacPreferencesUi.h"
 #include "platform/macos/windows/MacAccessibility.h"
 #include "platform/macos/windows/MacWindowList.h"
 #include "platform/macos/windows/MacWorkspace.h"
@@ -69,6 +70,7 @@ private:
     VigilantAccessibility accessibility{{macAccessibility, permissions, mainQueue, workspace, alerts, log}};
     macos::MacLoginItem loginItem;
     std::unique_ptr<macos::MacUpdater> updater = macos::MacUpdater::make(); // null in a bundle without the framework
+    macos::MacPreferencesUi preferencesUi{mainQueue};
 
     Platform platform;
     QuorvelApp app;

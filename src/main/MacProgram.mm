@@ -29,6 +29,7 @@ MacProgram::MacProgram(NSBundle* resources)
           .statusBar = statusBar,
           .permissions = permissions,
           .alerts = alerts,
+          .preferencesUi = &preferencesUi,
           .updater = updater.get(),
           .loginItem = &loginItem,
       },
