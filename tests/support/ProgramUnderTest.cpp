@@ -1,6 +1,7 @@
 #include "support/ProgramUnderTest.h"
 
 #include <array>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <fmt/format.h>
@@ -21,6 +22,10 @@ std::unique_ptr<ChildProcess> startProgram(const XServer& server, const std::fil
     command.words.insert(command.words.end(), options.arguments.begin(), options.arguments.end());
     command.environment = server.clientEnvironment();
     command.environment["XDG_CONFIG_HOME"] = configuration.path().string();
+    // The program is built with the sanitizers that the test is built with, and links the same libraries.
+    if (const char* const leakOptions = std::getenv("LSAN_OPTIONS")) {
+        command.environment["LSAN_OPTIONS"] = leakOptions;
+    }
     for (const auto& [name, value] : options.environment) {
         command.environment[name] = value;
     }
