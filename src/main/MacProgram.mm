@@ -1,6 +1,6 @@
 #include "main/MacProgram.h"
 
-#include "settings/SettingsKeys.h"
+#include "settings/ForeignChanges.h"
 
 namespace quorvel {
 
@@ -36,8 +36,8 @@ MacProgram::MacProgram(NSBundle* resources)
       app(platform),
       // macOS may have dropped hot keys while the machine slept or belonged to somebody else.
       sessionReturns(macos::observeSessionReturns([this] { app.mainController().registerShortcuts(); })),
-      foreignChanges(userDefaults.observeForeignChanges(
-          [this] { notificationCenter.post(notificationNames::shortcutDidChange, noNotificationObject); }))
+      foreignChanges(userDefaults.observeForeignKeys(
+          [this](const std::string& key) { handleForeignChanges({key}, userDefaults, notificationCenter, log); }))
 {}
 
 MacProgram::~MacProgram() = default;

@@ -48,6 +48,9 @@ struct SelectedLayoutRow {
     double height = 0.0;
 
     bool operator==(const SelectedLayoutRow&) const = default;
+
+    // Whether only the digits tell the two apart, if anything does.
+    bool hasSameCell(const SelectedLayoutRow& other) const { return cell == other.cell && height == other.height; }
 };
 
 // Indexes of rows of a table, in ascending order.

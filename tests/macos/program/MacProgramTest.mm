@@ -9,6 +9,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
+constexpr KeyCode b = 11;
 constexpr KeyCode o = 31;
 constexpr std::uint64_t commandShift = eventFlags::command | eventFlags::shift;
 
@@ -48,6 +49,22 @@ TEST_F(MacProgramTest, HotKeysAreRegisteredAgainAfterWakingUp)
 
     EXPECT_EQ(desktop.journal.entries({"HotKeys.registerHotKey"}).size(), 3U);
     EXPECT_THAT(desktop.hotKeys.registered(), SizeIs(3));
+}
+
+TEST_F(MacProgramTest, OfWhatOthersStoreOnlyShortcutsRegisterTheHotKeysAnew)
+{
+    launch();
+    type(o, commandShift); // the overlay's colours have been read
+    type(keyCodes::escape);
+    desktop.journal.clear();
+
+    [[NSUserDefaults standardUserDefaults] setObject:@"#FF0000FF" forKey:@"textColor"];
+    settle();
+    EXPECT_THAT(desktop.journal.entries({"HotKeys.registerHotKey"}), IsEmpty());
+
+    [[NSUserDefaults standardUserDefaults] setObject:[NSNumber numberWithInt:b] forKey:@"activateOverlayKeyCode"];
+    settle();
+    EXPECT_EQ(desktop.journal.entries({"HotKeys.registerHotKey"}).size(), 3U);
 }
 
 TEST_F(MacProgramTest, NothingIsLeftBehind)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 
 #include "platform/UserDefaults.h"
 
@@ -22,6 +24,9 @@ public:
     void setObject(std::string_view key, PropertyValue value) override;
     void removeObject(std::string_view key) override;
     Subscription observeForeignChanges(std::function<void()> changed) override;
+
+    // The same, with the key that was changed.
+    Subscription observeForeignKeys(std::function<void(const std::string& key)> changed);
 
 private:
     class Watch;

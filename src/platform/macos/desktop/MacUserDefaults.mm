@@ -82,7 +82,7 @@ public:
     }
 
     const Retained<NSUserDefaults*> defaults = Retained<NSUserDefaults*>::retain([NSUserDefaults standardUserDefaults]);
-    Signal<> foreignChange;
+    Signal<std::string> foreignChange;
 
 private:
     void check(const std::string& key)
@@ -91,7 +91,7 @@ private:
         auto& last = known.find(key)->second;
         if (value != last) {
             last = std::move(value);
-            foreignChange.emit();
+            foreignChange.emit(key);
         }
     }
 
@@ -128,6 +128,11 @@ void MacUserDefaults::removeObject(std::string_view key)
 }
 
 Subscription MacUserDefaults::observeForeignChanges(std::function<void()> changed)
+{
+    return observeForeignKeys([changed = std::move(changed)](const std::string&) { changed(); });
+}
+
+Subscription MacUserDefaults::observeForeignKeys(std::function<void(const std::string& key)> changed)
 {
     return watch->foreignChange.observe(std::move(changed));
 }

@@ -17,11 +17,6 @@ constexpr double buttonWidth = 44.0;
 constexpr double buttonSpacing = 8.0;
 constexpr double minimumTableHeight = 200.0;
 
-bool haveSameCells(const SelectedLayoutRow& one, const SelectedLayoutRow& other)
-{
-    return one.cell == other.cell && one.height == other.height;
-}
-
 } // namespace
 
 LayoutsPane::LayoutsPane(LayoutsPaneModel& model, MainQueue& mainQueue) : LayoutsPane(model, mainQueue, model.content())
@@ -76,14 +71,14 @@ LayoutTable::Actions LayoutsPane::selectedActions()
 
 void LayoutsPane::refresh()
 {
-    if (!std::ranges::equal(model.content().selected, shown.selected, haveSameCells)) {
+    if (!std::ranges::equal(model.content().selected, shown.selected, &SelectedLayoutRow::hasSameCell)) {
         finishEditing();
     }
     const auto content = model.content();
     if (content.available != shown.available) {
         showAvailable(content);
     }
-    if (!std::ranges::equal(content.selected, shown.selected, haveSameCells)) {
+    if (!std::ranges::equal(content.selected, shown.selected, &SelectedLayoutRow::hasSameCell)) {
         showSelected(content);
     } else if (content.selected != shown.selected) {
         showDigits(content.selected);

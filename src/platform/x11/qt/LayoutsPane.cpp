@@ -21,11 +21,6 @@ namespace {
 constexpr int innerSpacing = 6;
 constexpr int outerSpacing = 12;
 
-bool haveSameCells(const SelectedLayoutRow& one, const SelectedLayoutRow& other)
-{
-    return one.cell == other.cell && one.height == other.height;
-}
-
 QVBoxLayout* titledColumn(const std::string& title, LayoutTable* table, QWidget* parent)
 {
     constexpr int minimumTableHeight = 200;
@@ -144,7 +139,7 @@ void LayoutsPane::refresh()
     if (content.available != shown.available) {
         showAvailable(content);
     }
-    if (!std::ranges::equal(content.selected, shown.selected, haveSameCells)) {
+    if (!std::ranges::equal(content.selected, shown.selected, &SelectedLayoutRow::hasSameCell)) {
         showSelected(content);
     } else if (content.selected != shown.selected) {
         showDigits(content.selected);
