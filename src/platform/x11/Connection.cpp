@@ -125,10 +125,22 @@ void Connection::beginTurn()
     flush();
 }
 
+void Connection::catchUp()
+{
+    sync();
+    while (receive(xcb_poll_for_queued_event(connection))) {
+    }
+}
+
 Subscription Connection::addEventHandler(std::uint8_t type, EventHandler function)
 {
+    return add(handlers, type, std::move(function));
+}
+
+Subscription Connection::add(HandlerTable& table, std::uint8_t type, EventHandler function)
+{
     auto handler = std::make_shared<Handler>(std::move(function));
-    auto& list = handlers.at(type);
+    auto& list = table.at(type);
     list.push_back(handler);
     return Subscription([&list, handler = std::move(handler)] {
         handler->isActive = false;
@@ -149,18 +161,30 @@ void Connection::changeEventMask(xcb_window_t window, std::uint32_t mask)
 
 bool Connection::hasQueuedEvent()
 {
-    if (!queuedEvent) {
-        queuedEvent.reset(xcb_poll_for_queued_event(connection));
+    return !arrived.empty() || receive(xcb_poll_for_queued_event(connection));
+}
+
+// Takes the event over; false if there is none.
+bool Connection::receive(xcb_generic_event_t* event)
+{
+    if (event == nullptr) {
+        return false;
     }
-    return queuedEvent != nullptr;
+    arrived.emplace_back(event);
+    if (event->response_type != 0) {
+        call(arrivalHandlers, *event);
+    }
+    return true;
 }
 
 Reply<xcb_generic_event_t> Connection::nextEvent()
 {
-    if (queuedEvent) {
-        return std::move(queuedEvent);
+    if (arrived.empty() && !receive(xcb_poll_for_event(connection))) {
+        return nullptr;
     }
-    return Reply<xcb_generic_event_t>(xcb_poll_for_event(connection));
+    auto event = std::move(arrived.front());
+    arrived.pop_front();
+    return event;
 }
 
 void Connection::dispatchEvents()
@@ -177,7 +201,12 @@ void Connection::handle(const xcb_generic_event_t& event)
         report(reinterpret_cast<const xcb_generic_error_t&>(event));
         return;
     }
-    const auto called = handlers[event.response_type & ~sentEventBit]; // a copy: handlers come and go meanwhile
+    call(handlers, event);
+}
+
+void Connection::call(const HandlerTable& table, const xcb_generic_event_t& event)
+{
+    const auto called = table[event.response_type & ~sentEventBit]; // a copy: handlers come and go meanwhile
     for (const auto& handler : called) {
         if (handler->isActive) {
             handler->function(event);

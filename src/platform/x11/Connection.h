@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
 #include <expected>
 #include <functional>
 #include <memory>
@@ -61,10 +62,20 @@ public:
     template <class Event>
     Subscription addHandler(std::uint8_t type, std::function<void(const Event&)> handler)
     {
-        return addEventHandler(type, [handler = std::move(handler)](const xcb_generic_event_t& event) {
-            handler(reinterpret_cast<const Event&>(event));
-        });
+        return addEventHandler(type, typed(std::move(handler)));
     }
+
+    // Calls the handler with every event of that type as soon as it has been read from the server, which may be long
+    // before its turn has come: for those who must not believe any longer what they know.
+    template <class Event>
+    Subscription addArrivalHandler(std::uint8_t type, std::function<void(const Event&)> handler)
+    {
+        return add(arrivalHandlers, type, typed(std::move(handler)));
+    }
+
+    // Waits until the server has carried out every request so far, and lets the events that it has sent by then arrive.
+    // They are handled in their turn.
+    void catchUp();
 
     // Asks for events of a window until the token goes. All that select on one window get what they asked for; nobody
     // may set an event mask in any other way.
@@ -96,9 +107,22 @@ private:
         bool isActive = true;
     };
     using Handlers = std::vector<std::shared_ptr<Handler>>;
+    using HandlerTable = std::array<Handlers, 128>;
+
+    template <class Event>
+    static EventHandler typed(std::function<void(const Event&)> handler)
+    {
+        return [handler = std::move(handler)](const xcb_generic_event_t& event) {
+            handler(reinterpret_cast<const Event&>(event));
+        };
+    }
 
     Connection(xcb_connection_t* connection, int screenNumber);
 
+    static Subscription add(HandlerTable& table, std::uint8_t type, EventHandler function);
+    static void call(const HandlerTable& table, const xcb_generic_event_t& event);
+
+    bool receive(xcb_generic_event_t* event);
     Reply<xcb_generic_event_t> nextEvent();
     void handle(const xcb_generic_event_t& event);
     void report(const xcb_generic_error_t& error) const;
@@ -112,8 +136,9 @@ private:
     std::unordered_map<std::string, xcb_atom_t> otherAtoms;
     std::vector<ExtensionName> extensionNames;
     EventMasks eventMasks;
-    std::array<Handlers, 128> handlers;
-    Reply<xcb_generic_event_t> queuedEvent;
+    HandlerTable handlers;
+    HandlerTable arrivalHandlers;
+    std::deque<Reply<xcb_generic_event_t>> arrived; // and not handled yet
     std::function<void()> onLost;
     std::uint64_t turnNumber = 0;
     bool lost = false;

@@ -10,24 +10,24 @@
 namespace quorvel::x11 {
 
 ClientWindows::ClientWindows(Connection& connection, RootProperties& rootProperties)
-    : connection(connection), rootProperties(rootProperties), reader(connection)
-{
-    const auto note = [this](const auto& event) { noteChange(event.window); };
-    windowChanges.push_back(connection.addHandler<xcb_configure_notify_event_t>(XCB_CONFIGURE_NOTIFY, note));
-    windowChanges.push_back(connection.addHandler<xcb_reparent_notify_event_t>(XCB_REPARENT_NOTIFY, note));
-    windowChanges.push_back(connection.addHandler<xcb_map_notify_event_t>(XCB_MAP_NOTIFY, note));
-    windowChanges.push_back(connection.addHandler<xcb_unmap_notify_event_t>(XCB_UNMAP_NOTIFY, note));
-    windowChanges.push_back(connection.addHandler<xcb_destroy_notify_event_t>(XCB_DESTROY_NOTIFY, note));
-    windowChanges.push_back(connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, note));
-}
+    : connection(connection),
+      rootProperties(rootProperties),
+      ancestry(connection, [this](xcb_window_t window) { noteChange(window); }),
+      reader(connection, ancestry),
+      propertyChanges(connection.addArrivalHandler<xcb_property_notify_event_t>(
+          XCB_PROPERTY_NOTIFY, [this](const auto& event) { noteChange(event.window); }))
+{}
 
 const WindowSnapshot* ClientWindows::find(xcb_window_t window)
 {
     beginTurn();
-    if (!snapshots.contains(window)) {
+    if (!followed.contains(window)) {
+        catchUp();
+    }
+    if (!known.contains(window)) {
         read({window});
     }
-    const auto& snapshot = snapshots[window];
+    const auto& snapshot = known[window].snapshot;
     return snapshot ? &*snapshot : nullptr;
 }
 
@@ -58,10 +58,7 @@ void ClientWindows::unfollow(xcb_window_t window)
 
 void ClientWindows::noteChange(xcb_window_t window)
 {
-    if (const auto entry = followed.find(window); entry != followed.end()) {
-        entry->second.isKnown = false;
-        snapshots.erase(window);
-    }
+    known.erase(window);
 }
 
 std::vector<xcb_window_t> ClientWindows::frontToBack()
@@ -84,26 +81,21 @@ void ClientWindows::readOrder()
     if (order) {
         return;
     }
+    catchUp();
     auto windows = rootProperties.clientListStacking.values();
     if (windows.empty()) {
         windows = rootProperties.clientList.values();
     }
     read(windows);
-    std::erase_if(windows, [this](xcb_window_t window) { return !snapshots[window]; });
-    std::vector<xcb_window_t> parents;
-    parents.reserve(windows.size());
-    for (const auto window : windows) {
-        parents.push_back(snapshots[window]->parent);
-    }
-    const auto ancestors = reader.topLevelAncestors(windows, parents);
+    std::erase_if(windows, [this](xcb_window_t window) { return !known[window].snapshot; });
     std::unordered_map<xcb_window_t, std::size_t> heights;
     for (const auto topLevel : reader.topLevels()) {
         heights.emplace(topLevel, heights.size());
     }
     std::vector<std::pair<std::size_t, xcb_window_t>> ranked;
     ranked.reserve(windows.size());
-    for (std::size_t i = 0; i < windows.size(); ++i) {
-        ranked.emplace_back(heights[ancestors[i]], windows[i]);
+    for (const auto window : windows) {
+        ranked.emplace_back(heights[ancestry.topLevel(window)], window);
     }
     std::ranges::stable_sort(ranked, {}, &std::pair<std::size_t, xcb_window_t>::first);
     order.emplace();
@@ -112,7 +104,7 @@ void ClientWindows::readOrder()
     }
     for (const auto presence : {WindowPresence::onScreen, WindowPresence::elsewhere, WindowPresence::minimized}) {
         for (const auto window : *order) {
-            if (const auto& snapshot = *snapshots[window]; presenceOf(snapshot) == presence) {
+            if (const auto& snapshot = *known[window].snapshot; presenceOf(snapshot) == presence) {
                 windowsByProcess[snapshot.identity.process].push_back(window);
             }
         }
@@ -138,31 +130,40 @@ WindowPresence ClientWindows::presenceOf(const WindowSnapshot& window)
     return isOnScreen ? WindowPresence::onScreen : WindowPresence::elsewhere;
 }
 
+// What had vanished when it was asked for may be there now.
 void ClientWindows::beginTurn()
 {
     if (turn != connection.turn()) {
         turn = connection.turn();
-        std::erase_if(snapshots, [this](const auto& entry) { return !isKnown(entry.first, entry.second); });
+        isUpToDate = false;
+        std::erase_if(known,
+                      [this](const auto& entry) { return !entry.second.snapshot || !ancestry.isKnown(entry.first); });
         order.reset();
         windowsByProcess.clear();
     }
 }
 
-// A frame that had to be measured may change without a word to its client.
-bool ClientWindows::isKnown(xcb_window_t window, const std::optional<WindowSnapshot>& snapshot) const
+void ClientWindows::catchUp()
 {
-    const auto entry = followed.find(window);
-    return entry != followed.end() && entry->second.isKnown && snapshot && snapshot->isFrameDescribed;
+    if (!std::exchange(isUpToDate, true)) {
+        connection.catchUp();
+    }
 }
 
-void ClientWindows::read(const std::vector<xcb_window_t>& windows)
+// Those that are not known. Changes are selected first, so that none is missed.
+void ClientWindows::read(std::vector<xcb_window_t> windows)
 {
+    std::erase_if(windows, [this](xcb_window_t window) { return known.contains(window); });
+    if (windows.empty()) {
+        return;
+    }
+    for (const auto window : windows) {
+        known[window].properties = connection.selectEvents(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
+    }
+    ancestry.learn(windows);
     auto results = reader.read(windows);
     for (std::size_t i = 0; i < windows.size(); ++i) {
-        snapshots.insert_or_assign(windows[i], std::move(results[i]));
-        if (const auto entry = followed.find(windows[i]); entry != followed.end()) {
-            entry->second.isKnown = true;
-        }
+        known[windows[i]].snapshot = std::move(results[i]);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/Contains.h"
 #include "platform/x11/Properties.h"
+#include "platform/x11/windows/WindowAncestry.h"
 
 namespace quorvel::x11 {
 
@@ -70,7 +71,6 @@ struct PendingWindow {
     PendingWindow(Connection& connection, xcb_window_t window)
         : place(connection, window),
           attributes(connection.xcb(), xcb_get_window_attributes(connection.xcb(), window)),
-          tree(connection.xcb(), xcb_query_tree(connection.xcb(), window)),
           frame(requestProperty(connection.xcb(), window, connection.atoms().netFrameExtents)),
           shadow(requestProperty(connection.xcb(), window, connection.atoms().gtkFrameExtents)),
           netState(requestProperty(connection.xcb(), window, connection.atoms().netWmState)),
@@ -83,7 +83,6 @@ struct PendingWindow {
 
     PendingGeometry place;
     PendingReply<xcb_get_window_attributes_reply> attributes;
-    PendingReply<xcb_query_tree_reply> tree;
     PendingProperty frame;
     PendingProperty shadow;
     PendingProperty netState;
@@ -130,9 +129,10 @@ std::optional<ProcessId> localProcess(const xcb_res_query_client_ids_reply_t* re
 
 } // namespace
 
-WindowReader::WindowReader(Connection& connection)
+WindowReader::WindowReader(Connection& connection, const WindowAncestry& ancestry)
     : connection(connection),
-      destructions(connection.addHandler<xcb_destroy_notify_event_t>(
+      ancestry(ancestry),
+      destructions(connection.addArrivalHandler<xcb_destroy_notify_event_t>(
           XCB_DESTROY_NOTIFY, [this](const auto& event) { identities.erase(event.window); }))
 {}
 
@@ -152,14 +152,12 @@ std::vector<std::optional<WindowSnapshot>> WindowReader::read(std::span<const xc
         auto& source = pending[i];
         const auto place = source.place.take();
         const auto attributes = source.attributes.take();
-        const auto tree = source.tree.take();
-        if (!place || !attributes || !tree) {
+        if (!place || !attributes) {
             identities.erase(windows[i]);
             continue;
         }
         auto& snapshot = snapshots[i].emplace();
         snapshot.identity = identities[windows[i]].identity;
-        snapshot.parent = tree->parent;
         snapshot.client = place->rect;
         snapshot.mapState = attributes->map_state;
         const auto frame = extentsOf(cardinals(source.frame.take().get()));
@@ -192,20 +190,13 @@ void WindowReader::measureFrames(std::span<const xcb_window_t> windows,
                                  std::vector<std::optional<WindowSnapshot>>& snapshots,
                                  std::span<const std::size_t> undescribed)
 {
-    std::vector<xcb_window_t> clients;
-    std::vector<xcb_window_t> parents;
-    for (const auto i : undescribed) {
-        clients.push_back(windows[i]);
-        parents.push_back(snapshots[i]->parent);
-    }
-    const auto frames = topLevelAncestors(clients, parents);
     std::vector<PendingGeometry> pendingClients;
     std::vector<PendingGeometry> pendingFrames;
-    for (std::size_t i = 0; i < clients.size(); ++i) {
-        pendingClients.emplace_back(connection, clients[i]);
-        pendingFrames.emplace_back(connection, frames[i]);
+    for (const auto i : undescribed) {
+        pendingClients.emplace_back(connection, windows[i]);
+        pendingFrames.emplace_back(connection, ancestry.topLevel(windows[i]));
     }
-    for (std::size_t i = 0; i < clients.size(); ++i) {
+    for (std::size_t i = 0; i < undescribed.size(); ++i) {
         const auto client = pendingClients[i].take();
         const auto frame = pendingFrames[i].take();
         if (client && frame) {
@@ -231,31 +222,6 @@ std::vector<xcb_window_t> WindowReader::topLevels()
     }
     const auto* const children = xcb_query_tree_children(tree.get());
     return {children, children + tree->children_len};
-}
-
-std::vector<xcb_window_t> WindowReader::topLevelAncestors(std::span<const xcb_window_t> windows,
-                                                          std::span<const xcb_window_t> parents)
-{
-    std::vector<xcb_window_t> ancestors(windows.begin(), windows.end());
-    std::vector<xcb_window_t> above(parents.begin(), parents.end());
-    for (;;) {
-        std::vector<std::pair<std::size_t, PendingReply<xcb_query_tree_reply>>> climbing;
-        for (std::size_t i = 0; i < ancestors.size(); ++i) {
-            if (above[i] == connection.root() || above[i] == XCB_NONE) {
-                continue;
-            }
-            ancestors[i] = above[i];
-            climbing.emplace_back(
-                i, PendingReply<xcb_query_tree_reply>(connection.xcb(), xcb_query_tree(connection.xcb(), above[i])));
-        }
-        if (climbing.empty()) {
-            return ancestors;
-        }
-        for (auto& [i, pending] : climbing) {
-            const auto tree = pending.take();
-            above[i] = tree ? tree->parent : xcb_window_t{XCB_NONE};
-        }
-    }
 }
 
 void WindowReader::readIdentities(std::span<const xcb_window_t> windows)

@@ -13,23 +13,19 @@
 namespace quorvel::x11 {
 
 class Connection;
+class WindowAncestry;
 
 // Reads windows, many at the price of one: all requests are sent before the first reply is awaited.
 class WindowReader {
 public:
-    explicit WindowReader(Connection& connection);
+    WindowReader(Connection& connection, const WindowAncestry& ancestry);
 
-    // One entry for each window, in their order; absent for those that vanished. Costs one round trip; where some
-    // window's frame is not described by properties, one to measure it and one for each level between it and the root.
+    // One entry for each window, in their order; absent for those that vanished. Costs one round trip, and another one
+    // where some window's frame is not described by properties but has to be measured. The ancestry knows the windows.
     std::vector<std::optional<WindowSnapshot>> read(std::span<const xcb_window_t> windows);
 
     // The children of the root, bottom to top.
     std::vector<xcb_window_t> topLevels();
-
-    // For each window the ancestor that is a child of the root: itself if it is one, and the last that was found if
-    // they vanish meanwhile. `parents` are the windows' parents.
-    std::vector<xcb_window_t> topLevelAncestors(std::span<const xcb_window_t> windows,
-                                                std::span<const xcb_window_t> parents);
 
 private:
     void readIdentities(std::span<const xcb_window_t> windows);
@@ -45,6 +41,7 @@ private:
     };
 
     Connection& connection;
+    const WindowAncestry& ancestry;
     std::map<xcb_window_t, KnownIdentity> identities;
     Subscription destructions;
 };

@@ -36,7 +36,6 @@ struct WindowIdentity {
 // A client window as it was at one moment.
 struct WindowSnapshot {
     WindowIdentity identity;
-    xcb_window_t parent = XCB_NONE;
     RootRect client;               // without its X border
     Extents frame;                 // from the client to the outer edge of the window manager's frame
     bool isFrameDescribed = false; // by the window manager, not measured
