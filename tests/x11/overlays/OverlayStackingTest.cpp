@@ -66,6 +66,20 @@ TEST_F(OverlayStackingTest, OverlaysComeInFrontOfAWindowThatOpens)
     waitFor("the overlay in front", [&] { return areInFront(1); });
 }
 
+TEST_F(OverlayStackingTest, OverlaysComeInFrontOfAWindowThatOpensInTheSameMoment)
+{
+    const auto frame = createWindow(somewhere);
+    frame->setContent(content);
+    frame->orderFrontRegardless();
+    std::unique_ptr<xtest::TestWindow> other;
+    loop.async([&] {
+        connection->flush();
+        other = openWindow();
+    });
+    waitFor("both windows", [&] { return other && visibleWindows().size() == 2; });
+    waitFor("the overlay in front", [&] { return areInFront(1); });
+}
+
 TEST_F(OverlayStackingTest, AWindowThatInsistsWinsInTheEnd)
 {
     const auto other = openWindow();

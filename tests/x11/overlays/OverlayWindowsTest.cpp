@@ -219,6 +219,7 @@ TEST_F(OverlayWindowsTest, AreNotDrawnTwiceWhenTheyAreShown)
     window->setContent(filledWith(Color::bytes(255, 0, 0), size));
     window->orderFrontRegardless();
     turn();
+    turn(); // in which others begin to be watched
     const auto requestsBefore = requestCount();
     turn();
     turn();

@@ -1,6 +1,8 @@
 #include "platform/x11/overlays/OverlayStacking.h"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 
 #include "platform/MainQueue.h"
 #include "platform/x11/Connection.h"
@@ -35,22 +37,59 @@ void OverlayStacking::raise(xcb_window_t window, int level, Age age)
     }
     backToFront.insert(inFront, {window, level});
     raisesLeft = maximumRaises;
-    if (othersEvents.empty()) {
-        watchOthers();
-    }
+    reviewWatchSoon();
 }
 
 void OverlayStacking::remove(xcb_window_t window)
 {
     std::erase_if(backToFront, [&](const Entry& entry) { return entry.window == window; });
-    if (backToFront.empty()) {
-        othersEvents.clear();
-    }
+    reviewWatchSoon();
 }
 
 bool OverlayStacking::contains(xcb_window_t window) const
 {
     return std::ranges::find(backToFront, window, &Entry::window) != backToFront.end();
+}
+
+// The server visits every window there is when the events of the root change. That must not hold up what is shown.
+void OverlayStacking::reviewWatchSoon()
+{
+    if (!std::exchange(isReviewScheduled, true)) {
+        mainQueue.async(weakGuard.guard([this] { reviewWatch(); }));
+    }
+}
+
+void OverlayStacking::reviewWatch()
+{
+    isReviewScheduled = false;
+    if (backToFront.empty()) {
+        othersEvents.clear();
+    } else if (othersEvents.empty()) {
+        watchOthers();
+        if (isBehindOthers()) {
+            handleOther(); // it came before the events were selected
+        }
+    }
+}
+
+bool OverlayStacking::isBehindOthers() const
+{
+    PendingReply<xcb_query_tree_reply> pending(connection.xcb(), xcb_query_tree(connection.xcb(), connection.root()));
+    const auto tree = pending.take();
+    if (!tree) {
+        return false;
+    }
+    const std::span all(xcb_query_tree_children(tree.get()), tree->children_len);
+    const auto lowest = std::ranges::find_if(all, [this](auto window) { return contains(window); });
+    return std::any_of(lowest, all.end(), [this](auto window) { return !contains(window) && isViewable(window); });
+}
+
+bool OverlayStacking::isViewable(xcb_window_t window) const
+{
+    PendingReply<xcb_get_window_attributes_reply> pending(connection.xcb(),
+                                                          xcb_get_window_attributes(connection.xcb(), window));
+    const auto attributes = pending.take();
+    return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
 // Visibility events would not do: windows that a compositor draws count as unobscured.

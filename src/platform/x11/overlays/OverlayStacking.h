@@ -36,7 +36,11 @@ private:
     };
 
     bool contains(xcb_window_t window) const;
+    bool isViewable(xcb_window_t window) const;
+    void reviewWatchSoon();
+    void reviewWatch();
     void watchOthers();
+    bool isBehindOthers() const;
     void handleOther();
     void raiseAll();
 
@@ -44,6 +48,7 @@ private:
     MainQueue& mainQueue;
     std::vector<Entry> backToFront;
     std::vector<Subscription> othersEvents; // while there are windows to keep in front
+    bool isReviewScheduled = false;
     bool isRaiseScheduled = false;
     int raisesLeft = 0;
     WeakGuard weakGuard;

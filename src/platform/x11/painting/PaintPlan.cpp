@@ -135,8 +135,9 @@ private:
     static std::vector<PixelRect> opaqueRuns(const PixelImage& picture, const PaintPlan::Piece& piece, int y)
     {
         std::vector<PixelRect> runs;
+        const auto row = picture.row(piece.pictureY + y).subspan(static_cast<std::size_t>(piece.pictureX));
         for (int x = 0; x < piece.rect.width; ++x) {
-            if (alphaOf(picture.at(piece.pictureX + x, piece.pictureY + y)) != opaqueAlpha) {
+            if (alphaOf(row[static_cast<std::size_t>(x)]) != opaqueAlpha) {
                 continue;
             }
             const int place = piece.rect.x + x;

@@ -19,7 +19,11 @@ std::size_t bytesOf(const PixelImage& picture)
 Pixel opaqueOrAbsent(Pixel pixel)
 {
     constexpr unsigned half = 128;
+    constexpr unsigned whole = 255;
     const unsigned alpha = alphaOf(pixel);
+    if (alpha == whole) {
+        return pixel;
+    }
     if (alpha < half) {
         return 0;
     }

@@ -23,7 +23,8 @@ public:
 
     std::size_t bytes() const { return heldBytes; }
 
-    static constexpr std::size_t maximumBytes = std::size_t{1} << 20U;
+    // A letter for each window on a desktop with long titles.
+    static constexpr std::size_t maximumBytes = std::size_t{6} << 20U;
 
 private:
     struct Entry {

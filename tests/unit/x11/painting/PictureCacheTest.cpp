@@ -50,7 +50,7 @@ TEST_F(PictureCacheTest, ForgetsWhatWasUsedLongestAgo)
 {
     const auto used = square(200, 0.999);
     const std::weak_ptr<const PixelImage> unused = square(200, 0.998);
-    for (int index = 0; index < 20; ++index) {
+    for (int index = 0; index < 60; ++index) {
         square(200, index / 100.0);
         EXPECT_EQ(square(200, 0.999), used);
     }
