@@ -31,7 +31,6 @@ constexpr std::array atomNames = {
     AtomName{&Atoms::netWorkarea, "_NET_WORKAREA"},
     AtomName{&Atoms::netMoveresizeWindow, "_NET_MOVERESIZE_WINDOW"},
     AtomName{&Atoms::netFrameExtents, "_NET_FRAME_EXTENTS"},
-    AtomName{&Atoms::netRequestFrameExtents, "_NET_REQUEST_FRAME_EXTENTS"},
     AtomName{&Atoms::gtkFrameExtents, "_GTK_FRAME_EXTENTS"},
     AtomName{&Atoms::netWmName, "_NET_WM_NAME"},
     AtomName{&Atoms::netWmPid, "_NET_WM_PID"},

@@ -22,7 +22,6 @@ struct Atoms {
     xcb_atom_t netWorkarea = XCB_ATOM_NONE;
     xcb_atom_t netMoveresizeWindow = XCB_ATOM_NONE;
     xcb_atom_t netFrameExtents = XCB_ATOM_NONE;
-    xcb_atom_t netRequestFrameExtents = XCB_ATOM_NONE;
     xcb_atom_t gtkFrameExtents = XCB_ATOM_NONE;
 
     xcb_atom_t netWmName = XCB_ATOM_NONE;

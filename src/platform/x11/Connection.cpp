@@ -128,6 +128,11 @@ void Connection::beginTurn()
 void Connection::catchUp()
 {
     sync();
+    takeArrived();
+}
+
+void Connection::takeArrived()
+{
     while (receive(xcb_poll_for_queued_event(connection))) {
     }
 }

@@ -77,6 +77,9 @@ public:
     // They are handled in their turn.
     void catchUp();
 
+    // The same without waiting: the events that came before the last reply arrive.
+    void takeArrived();
+
     // Asks for events of a window until the token goes. All that select on one window get what they asked for; nobody
     // may set an event mask in any other way.
     Subscription selectEvents(xcb_window_t window, std::uint32_t mask);

@@ -19,6 +19,7 @@ WindowSnapshot windowAt(double x, double y, double width, double height)
 {
     WindowSnapshot window;
     window.frame = frame;
+    window.isFrameDescribed = true;
     window.client = {x + frame.left, y + frame.top, width - frame.left - frame.right,
                      height - frame.top - frame.bottom};
     return window;
@@ -166,6 +167,30 @@ TEST(Placement, IsCorrectedByWhatIsMissingTwiceAtMost)
     EXPECT_EQ(placement.settle(short1).geometry, (Geometry{298, 200, 797, 586}));
     EXPECT_EQ(placement.settle(short1).geometry, (Geometry{296, 200, 797, 596}));
     EXPECT_TRUE(placement.settle(short1).isEmpty());
+}
+
+TEST(Placement, DoesNotCorrectWhatCameOfARequestForAnotherFrame)
+{
+    auto bare = away;
+    bare.frame = {};
+    Placement placement(wanted, Anchor::frame);
+    EXPECT_EQ(placement.begin(bare).geometry, (Geometry{300, 200, 800, 600}));
+    EXPECT_EQ(placement.settle(windowAt(300, 200, 803, 624)).geometry, request);
+    EXPECT_TRUE(placement.settle(there).isEmpty());
+}
+
+TEST(Placement, IsNotReconsideredForAFrameThatIsMeasuredOnTheWay)
+{
+    auto covering = away;
+    covering.isFullscreen = true;
+    covering.frame = {};
+    auto halfway = away;
+    halfway.isFrameDescribed = false;
+    halfway.frame = {0, 1200, 0, 800};
+    Placement placement(wanted, Anchor::frame);
+    placement.begin(covering);
+    EXPECT_TRUE(placement.reconsider(halfway).isEmpty());
+    EXPECT_EQ(placement.settle(away).geometry, request);
 }
 
 TEST(Placement, LearnsThatAWindowManagerPlacesClients)

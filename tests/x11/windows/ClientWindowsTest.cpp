@@ -170,5 +170,22 @@ TEST_F(ClientWindowsTest, AWindowIsFollowedIntoAnotherFrameAndOutOfIt)
     EXPECT_EQ(snapshotInTheNextTurn()->client.x, 7.0);
 }
 
+// Its frame is measured against the window, and its events have come but not been handled.
+TEST_F(ClientWindowsTest, AWindowIsNotMeasuredAgainstAFrameThatItHasLeft)
+{
+    openWindow("First");
+    const auto former = enclose(window);
+    const auto following = desktop.adapters.windows.follow(window);
+    snapshotInTheNextTurn();
+    setTitle("Changed");
+    desktop.connection->sync();
+    desktop.connection->dispatchEvents();
+    enclose(window);
+    move(former, 900);
+    const auto* const snapshot = snapshotInTheNextTurn();
+    EXPECT_EQ(snapshot->frame, (Extents{3, 197, 20, 180}));
+    EXPECT_EQ(snapshot->outer(), (RootRect{40, 50, 300, 300}));
+}
+
 } // namespace
 } // namespace quorvel::x11

@@ -1,6 +1,7 @@
 #include "platform/x11/windows/ClientWindows.h"
 
 #include <algorithm>
+#include <iterator>
 #include <ranges>
 #include <utility>
 
@@ -8,6 +9,13 @@
 #include "platform/x11/RootProperties.h"
 
 namespace quorvel::x11 {
+
+namespace {
+
+// A window that never comes to rest is taken as it was read last.
+constexpr int mostReadings = 4;
+
+} // namespace
 
 ClientWindows::ClientWindows(Connection& connection, RootProperties& rootProperties)
     : connection(connection),
@@ -150,13 +158,26 @@ void ClientWindows::catchUp()
     }
 }
 
-// Those that are not known. Changes are selected first, so that none is missed.
-void ClientWindows::read(std::vector<xcb_window_t> windows)
+// Those that are not known. One that changes while it is read is read again, for it may have been read at two moments.
+void ClientWindows::read(const std::vector<xcb_window_t>& windows)
 {
-    std::erase_if(windows, [this](xcb_window_t window) { return known.contains(window); });
-    if (windows.empty()) {
-        return;
+    for (int reading = 1; reading <= mostReadings; ++reading) {
+        std::vector<xcb_window_t> unknown;
+        std::ranges::copy_if(windows, std::back_inserter(unknown),
+                             [this](xcb_window_t window) { return !known.contains(window); });
+        if (unknown.empty()) {
+            return;
+        }
+        readOnce(unknown);
+        if (reading < mostReadings) {
+            connection.takeArrived();
+        }
     }
+}
+
+// Changes are selected first, so that none is missed.
+void ClientWindows::readOnce(const std::vector<xcb_window_t>& windows)
+{
     for (const auto window : windows) {
         known[window].properties = connection.selectEvents(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
     }

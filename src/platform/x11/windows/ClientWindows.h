@@ -65,7 +65,8 @@ private:
     void catchUp();
     void noteChange(xcb_window_t window);
     void unfollow(xcb_window_t window);
-    void read(std::vector<xcb_window_t> windows);
+    void read(const std::vector<xcb_window_t>& windows);
+    void readOnce(const std::vector<xcb_window_t>& windows);
     void readOrder();
 
     Connection& connection;

@@ -16,6 +16,12 @@ bool isBound(const WindowSnapshot& window)
     return window.isMaximized || window.isFullscreen;
 }
 
+// A frame that is measured while the window manager moves it and the client, one after the other, is none.
+bool hasCertainFrame(const WindowSnapshot& window)
+{
+    return window.isFrameDescribed || window.frame == Extents{};
+}
+
 } // namespace
 
 Placement::Step Placement::begin(const WindowSnapshot& window)
@@ -33,7 +39,7 @@ Placement::Step Placement::leaveState(const WindowSnapshot& window)
 
 Placement::Step Placement::reconsider(const WindowSnapshot& window)
 {
-    if (isBound(window) || frameToLose == window.frame) {
+    if (isBound(window) || frameToLose == window.frame || !hasCertainFrame(window)) {
         return {};
     }
     const auto previous = lastRequest;
@@ -41,6 +47,8 @@ Placement::Step Placement::reconsider(const WindowSnapshot& window)
     return next == previous ? Step{} : Step{.geometry = next};
 }
 
+// What came of a request tells something of the window manager only if the window still has the frame that the request
+// reckoned with.
 Placement::Step Placement::settle(const WindowSnapshot& window)
 {
     const auto offset = openOffset(window);
@@ -52,10 +60,15 @@ Placement::Step Placement::settle(const WindowSnapshot& window)
         ++corrections;
         return leaveState(window);
     }
-    if (lastRequest) {
-        ++corrections;
-        correct(offset, window);
+    if (!lastRequest) {
+        return {.geometry = request(window)};
     }
+    ++corrections;
+    const auto previous = lastRequest;
+    if (const auto next = request(window); next != previous) {
+        return {.geometry = next};
+    }
+    correct(offset, window);
     return {.geometry = request(window)};
 }
 

@@ -21,9 +21,6 @@ constexpr auto coalescingTime = 16ms;
 // A window that has not moved for so long has come to rest.
 constexpr auto quietTime = 60ms;
 
-// A busy window manager is waited for a few times as long.
-constexpr int mostVainWaits = 6;
-
 // After so long a window is left alone, for a person may be moving it meanwhile.
 constexpr auto longestTime = 1s;
 
@@ -109,9 +106,13 @@ void Placements::start(xcb_window_t window, Written& written)
     perform(window, entry, entry.placement.begin(snapshot));
     mainQueue.after(longestTime, weakGuard.guard([this, window, number] {
         const auto expired = running.find(window);
-        if (expired != running.end() && expired->second.number == number) {
-            end(expired);
+        if (expired == running.end() || expired->second.number != number) {
+            return;
         }
+        if (!expired->second.isAnswered) {
+            barrier.noteVainWait();
+        }
+        end(expired);
     }));
 }
 
@@ -143,7 +144,6 @@ void Placements::noteEvent(xcb_window_t window)
 void Placements::awaitAnswer(xcb_window_t window, Running& entry)
 {
     entry.isAnswered = false;
-    entry.vainWaits = 0;
     entry.request = ++lastNumber;
     if (!barrier.isSupported()) {
         return;
@@ -216,12 +216,11 @@ void Placements::settle(xcb_window_t window, std::uint64_t activity)
         return;
     }
     auto& placement = entry->second.placement;
-    if (!placement.isFulfilledBy(*snapshot) && !entry->second.isAnswered) {
-        if (++entry->second.vainWaits < mostVainWaits) {
-            noteActivity(window);
-            return;
-        }
-        barrier.noteVainWait();
+    // What a busy window manager makes of the request is still to come, and a window that was moved may yet be resized.
+    const bool isDealtWith = entry->second.isAnswered || (!barrier.isSupported() && placement.isFulfilledBy(*snapshot));
+    if (!isDealtWith) {
+        noteActivity(window);
+        return;
     }
     const bool wasHeard = entry->second.asked == windowManager.identity();
     const auto step = wasHeard ? placement.settle(*snapshot) : placement.repeat(*snapshot);

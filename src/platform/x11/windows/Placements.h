@@ -60,7 +60,6 @@ private:
         std::uint64_t activity = 0;        // tells its last request, answer or event from earlier ones
         WindowManager::Identity asked = 0; // the window manager that the last request went to
         bool isAnswered = false;           // it has dealt with that request
-        int vainWaits = 0;                 // how long there has been no sign of that
         bool isReconsiderationDue = false;
 
         bool isOpen() const { return !isAnswered || !placement.hasAsked(); }

@@ -147,11 +147,6 @@ void WindowManager::activate(xcb_window_t window)
     send(window, connection.atoms().netActiveWindow, {sourceIsPager, XCB_CURRENT_TIME, XCB_NONE, 0, 0});
 }
 
-void WindowManager::requestFrameExtents(xcb_window_t window)
-{
-    send(window, connection.atoms().netRequestFrameExtents, {});
-}
-
 void WindowManager::send(xcb_window_t window, xcb_atom_t type, const std::array<std::uint32_t, 5>& data)
 {
     xcb_client_message_event_t event{};

@@ -55,9 +55,6 @@ public:
     // Raises the window, gives it the keyboard and shows it if it is minimized, on the current desktop.
     void activate(xcb_window_t window);
 
-    // Lets it say, as a property, what frame the window would get.
-    void requestFrameExtents(xcb_window_t window);
-
 private:
     void follow();
     void lookSoon();

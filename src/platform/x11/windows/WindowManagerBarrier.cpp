@@ -1,6 +1,10 @@
 #include "platform/x11/windows/WindowManagerBarrier.h"
 
+#include <algorithm>
+#include <iterator>
+#include <limits>
 #include <utility>
+#include <vector>
 
 #include "platform/x11/Connection.h"
 
@@ -9,12 +13,12 @@ namespace quorvel::x11 {
 WindowManagerBarrier::WindowManagerBarrier(Connection& connection, WindowManager& windowManager)
     : connection(connection), windowManager(windowManager), window(xcb_generate_id(connection.xcb()))
 {
-    xcb_create_window(connection.xcb(), 0, window, connection.root(), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                      XCB_COPY_FROM_PARENT, 0, nullptr);
-    selection = connection.selectEvents(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
-    answers = connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
-        if (event.window == window && event.atom == this->connection.atoms().netFrameExtents) {
-            handleAnswer();
+    xcb_create_window(connection.xcb(), 0, window, connection.root(), lastPosition, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    selection = connection.selectEvents(window, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    answers = connection.addHandler<xcb_configure_notify_event_t>(XCB_CONFIGURE_NOTIFY, [this](const auto& event) {
+        if (event.window == window) {
+            handleAnswer(event.x);
         }
     });
 }
@@ -28,8 +32,7 @@ WindowManagerBarrier::~WindowManagerBarrier()
 bool WindowManagerBarrier::isSupported()
 {
     const auto manager = windowManager.identity();
-    return manager != 0 && manager != silentManager &&
-           windowManager.supports(connection.atoms().netRequestFrameExtents);
+    return manager != 0 && manager != silentManager;
 }
 
 void WindowManagerBarrier::noteVainWait()
@@ -39,26 +42,35 @@ void WindowManagerBarrier::noteVainWait()
     }
 }
 
+// The window is never mapped, and each question takes it further to the left, so that answers can be told apart.
 void WindowManagerBarrier::whenReached(std::function<void()> callback)
 {
     const auto manager = windowManager.identity();
     if (std::exchange(askedManager, manager) != manager) {
         waiting.clear();
     }
-    waiting.push_back(std::move(callback));
-    windowManager.requestFrameExtents(window);
+    const bool isLeftmost = lastPosition == std::numeric_limits<std::int16_t>::min();
+    lastPosition = isLeftmost ? std::int16_t{-1} : static_cast<std::int16_t>(lastPosition - 1);
+    waiting.push_back({lastPosition, std::move(callback)});
+    const auto x = static_cast<std::uint32_t>(std::int32_t{lastPosition});
+    xcb_configure_window(connection.xcb(), window, XCB_CONFIG_WINDOW_X, &x);
+    connection.flush();
 }
 
-void WindowManagerBarrier::handleAnswer()
+void WindowManagerBarrier::handleAnswer(std::int16_t position)
 {
-    if (waiting.empty()) {
+    const auto answered = std::ranges::find(waiting, position, &Waiting::position);
+    if (answered == waiting.end()) {
         return;
     }
     answeringManager = askedManager;
     silentManager = 0;
-    const auto callback = std::move(waiting.front());
-    waiting.pop_front();
-    callback();
+    std::vector<Waiting> reached(std::make_move_iterator(waiting.begin()),
+                                 std::make_move_iterator(std::next(answered)));
+    waiting.erase(waiting.begin(), std::next(answered));
+    for (const auto& each : reached) {
+        each.callback();
+    }
 }
 
 } // namespace quorvel::x11

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 
@@ -12,8 +13,9 @@ namespace quorvel::x11 {
 
 class Connection;
 
-// Tells when the window manager has carried out what it was asked to do. It takes messages one after the other, and one
-// of them has a visible answer even for a window that it does not manage: what frame that window would get.
+// Tells when the window manager has carried out what it was asked to do. It takes messages one after the other, and the
+// wish of a window that it does not manage to be somewhere else, which every window manager has to grant, is one of
+// them: the window moves when all before it has been dealt with.
 class WindowManagerBarrier {
 public:
     WindowManagerBarrier(Connection& connection, WindowManager& windowManager);
@@ -21,11 +23,10 @@ public:
     WindowManagerBarrier& operator=(const WindowManagerBarrier&) = delete;
     ~WindowManagerBarrier();
 
-    // Whether the present window manager says that it answers, and has not been found silent.
+    // Whether there is a window manager, and it has not been found silent.
     bool isSupported();
 
-    // It has been waited for in vain. Some only say that they answer; one that never did is not asked again, unless its
-    // answer comes yet.
+    // It has been waited for in vain. One that never answered is not counted on, unless its answer comes yet.
     void noteVainWait();
 
     // Calls back from the main loop once everything sent so far has been carried out; never if the window manager
@@ -33,15 +34,21 @@ public:
     void whenReached(std::function<void()> callback);
 
 private:
-    void handleAnswer();
+    struct Waiting {
+        std::int16_t position;
+        std::function<void()> callback;
+    };
+
+    void handleAnswer(std::int16_t position);
 
     Connection& connection;
     WindowManager& windowManager;
     xcb_window_t window;
+    std::int16_t lastPosition = -1;
     WindowManager::Identity askedManager = 0;
     WindowManager::Identity answeringManager = 0;
     WindowManager::Identity silentManager = 0;
-    std::deque<std::function<void()>> waiting; // answers come in the order of the questions
+    std::deque<Waiting> waiting; // answers come in the order of the questions
     Subscription selection;
     Subscription answers;
 };
