@@ -60,12 +60,6 @@ std::string windowModelText(const WindowModel& frame)
            logText(frame.top_right_x) + ", " + logText(frame.top_right_y) + ")";
 }
 
-bool isAttached(const Platform& platform, const std::optional<Screen>& screen)
-{
-    return screen && std::ranges::any_of(platform.screens.screens(),
-                                         [&](const Screen& each) { return each.isSameScreenAs(*screen); });
-}
-
 } // namespace
 
 LayoutOverlayMode::LayoutOverlayMode(ModeEnvironment environment) : environment(std::move(environment)) {}
@@ -91,11 +85,10 @@ void LayoutOverlayMode::showOverlay(const std::optional<ScreensModel>& screens,
     }
     const auto layout = environment.layoutsManager.selectedLayout();
     const auto frames = layout ? layout->windows : std::vector<WindowModel>();
-    const auto showing =
-        std::make_shared<const Showing>(Showing{*targetScreens, std::move(element), labelFrames(frames)});
-    showFrames(*showing, frames);
-    showLegend(showing->screens);
-    captureKeys(showing);
+    current = std::make_shared<const Showing>(Showing{*targetScreens, std::move(element), labelFrames(frames)});
+    showFrames(*current, frames);
+    showLegend(current->screens);
+    captureKeys();
     if (environment.overlayWindowManager.isOverlayVisible()) {
         environment.stateManager.currentState = StateManager::States::overlayOn;
     }
@@ -125,14 +118,18 @@ void LayoutOverlayMode::showLegend(const ScreensModel& screens)
     }
 }
 
-void LayoutOverlayMode::captureKeys(std::shared_ptr<const Showing> showing)
+// A key that was typed before an earlier one ended the overlay may arrive after that.
+void LayoutOverlayMode::captureKeys()
 {
     auto* blocker = environment.eventBlocker;
     if (blocker == nullptr) {
         return;
     }
-    blocker->setOnBlockKey(
-        weakly.guard([this, showing = std::move(showing)](const CapturedKey& key) { handleKey(*showing, key); }));
+    blocker->setOnBlockKey(weakly.guard([this, showing = std::weak_ptr(current)](const CapturedKey& key) {
+        if (const auto present = showing.lock()) {
+            handleKey(*present, key);
+        }
+    }));
     blocker->blockAllKeys();
 }
 
@@ -161,13 +158,12 @@ void LayoutOverlayMode::navigate(Action action, const Showing& showing) const
 // A screen that was unplugged while the overlay is up has no neighbours; the step then starts from where the window is.
 std::optional<ScreensModel> LayoutOverlayMode::stepScreen(Action action, const Showing& showing) const
 {
-    auto screens = isAttached(environment.platform, showing.screens.currentScreen())
-                       ? std::optional(showing.screens)
-                       : screensForElement(*showing.element);
-    if (!screens) {
-        return std::nullopt;
+    const auto direction = action == Action::nextScreen ? ScreenStep::next : ScreenStep::previous;
+    if (auto neighbour = showing.screens.neighbour(direction)) {
+        return neighbour;
     }
-    return action == Action::nextScreen ? screens->nextScreen() : screens->previousScreen();
+    const auto screens = screensForElement(*showing.element);
+    return screens ? screens->neighbour(direction) : std::nullopt;
 }
 
 void LayoutOverlayMode::jump(const std::string& digit, const Showing& showing) const

@@ -27,6 +27,9 @@ public:
     // the log says so and nothing is shown.
     void showOverlay(const std::optional<ScreensModel>& screens, std::shared_ptr<WindowElementModel> element);
 
+    // The overlay is gone: the window is let go, and keys that come late do nothing.
+    void leave() { current.reset(); }
+
     // Puts the window into a frame of a layout on the current screen.
     void placeWindow(const WindowModel& frame, const ScreensModel& screens, WindowElementModel& element) const;
 
@@ -41,7 +44,7 @@ private:
     std::optional<ScreensModel> screensForElement(const WindowElementModel& element) const;
     void showFrames(const Showing& showing, const std::vector<WindowModel>& frames);
     void showLegend(const ScreensModel& screens);
-    void captureKeys(std::shared_ptr<const Showing> showing);
+    void captureKeys();
 
     void handleKey(const Showing& showing, const CapturedKey& key) const;
     void navigate(Action action, const Showing& showing) const;
@@ -50,6 +53,7 @@ private:
     void choose(const std::string& character, const Showing& showing) const;
 
     ModeEnvironment environment;
+    std::shared_ptr<const Showing> current; // present while the overlay is up
     WeakGuard weakly;
 };
 

@@ -198,6 +198,7 @@ void MainController::exitCurrentMode()
 {
     overlayWindowManager.hideAll();
     releaseBlocker();
+    layoutOverlayMode.leave();
     moveResizeMode.leave();
     modes.eventMonitor.reset();
     if (!overlayWindowManager.isOverlayVisible()) {

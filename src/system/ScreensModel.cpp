@@ -70,15 +70,24 @@ bool ScreensModel::selectScreenForWindowRect(const AxRect& rect)
 
 std::optional<ScreensModel> ScreensModel::nextScreen()
 {
-    return step(Direction::next);
+    return attachedNeighbour(ScreenStep::next);
 }
 
 std::optional<ScreensModel> ScreensModel::previousScreen()
 {
-    return step(Direction::previous);
+    return attachedNeighbour(ScreenStep::previous);
 }
 
-std::optional<ScreensModel> ScreensModel::step(Direction direction)
+std::optional<ScreensModel> ScreensModel::attachedNeighbour(ScreenStep step) const
+{
+    auto found = neighbour(step);
+    if (!found && current->screen) {
+        fatalError("The current screen is no longer attached");
+    }
+    return found;
+}
+
+std::optional<ScreensModel> ScreensModel::neighbour(ScreenStep step) const
 {
     if (!current->screen) {
         return std::nullopt;
@@ -87,11 +96,11 @@ std::optional<ScreensModel> ScreensModel::step(Direction direction)
     const auto found =
         std::ranges::find_if(screens, [this](const Screen& screen) { return screen.isSameScreenAs(*current->screen); });
     if (found == screens.end()) {
-        fatalError("The current screen is no longer attached");
+        return std::nullopt;
     }
     const auto index = static_cast<std::size_t>(found - screens.begin());
     const auto count = screens.size();
-    current->screen = screens[(direction == Direction::next ? index + 1 : index + count - 1) % count];
+    current->screen = screens[(step == ScreenStep::next ? index + 1 : index + count - 1) % count];
     return ScreensModel(*platform, current);
 }
 

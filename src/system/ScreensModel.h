@@ -10,6 +10,8 @@ namespace quorvel {
 
 struct Platform;
 
+enum class ScreenStep { next, previous };
+
 // Chooses the current screen, and converts between accessibility and screen coordinates. A model has no state of its
 // own: all models made with one CurrentScreen are interchangeable. Screens count in the platform's order, the primary
 // one first, as they are at the moment of a call; nothing here follows their changes.
@@ -29,13 +31,15 @@ public:
     std::optional<ScreensModel> nextScreen();
     std::optional<ScreensModel> previousScreen();
 
+    // The same for whoever does not know whether the current screen is still attached: nothing if it is not.
+    std::optional<ScreensModel> neighbour(ScreenStep step) const;
+
     // The flip by the height of the primary screen, in both directions; without screens only the type changes.
     static ScreenRect appKitRectFromAccessibility(const Platform& platform, const AxRect& rect);
     static AxRect accessibilityRectFromAppKit(const Platform& platform, const ScreenRect& rect);
 
 private:
-    enum class Direction { next, previous };
-    std::optional<ScreensModel> step(Direction direction);
+    std::optional<ScreensModel> attachedNeighbour(ScreenStep step) const;
 
     const Platform* platform;
     std::shared_ptr<CurrentScreen> current;

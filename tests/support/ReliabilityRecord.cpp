@@ -26,7 +26,7 @@ ReliabilityRecord::~ReliabilityRecord()
 void ReliabilityRecord::survived(std::string seen)
 {
     ++timesSurvived;
-    everythingSeen.insert(std::move(seen));
+    saw(std::move(seen));
 }
 
 std::string ReliabilityRecord::text() const

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace quorvel {
 
@@ -18,6 +19,9 @@ public:
 
     // The fault is about to happen. Whoever does not come to survived() after this has not survived it.
     void tried() { ++timesTried; }
+
+    // One of the things that the person saw of it.
+    void saw(std::string what) { everythingSeen.insert(std::move(what)); }
 
     // All is as it should be afterwards. `seen` is what the person saw of it, the same in every run; empty for nothing.
     void survived(std::string seen);

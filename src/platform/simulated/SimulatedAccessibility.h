@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -33,6 +35,13 @@ public:
     createObserver(ProcessId process, std::function<void(std::string_view name)> callback) override;
 
     AxElementRef elementOf(const SimulatedWindow& window) const;
+
+    // Those that exist.
+    std::size_t observerCount() const
+    {
+        return static_cast<std::size_t>(
+            std::ranges::count_if(observers, [](const auto& each) { return !each.expired(); }));
+    }
 
     void failObserverCreation(AxError error) { observerError = error; }
     // Refuses every call as if the permission were missing, though it is given.

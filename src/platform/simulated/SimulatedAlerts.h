@@ -26,6 +26,9 @@ public:
     // The same with its first button, whatever it is called.
     void chooseDefault() { answers.emplace_back(); }
 
+    // The answers that no alert has had yet.
+    void forgetAnswers() { answers.clear(); }
+
     const std::vector<Alert>& shown() const { return shownAlerts; }
 
 private:

@@ -51,6 +51,9 @@ public:
     // cannot be read.
     void send(std::expected<HotKeyId, OsStatus> id);
 
+    // The program has ended: the system takes back what it held.
+    void releaseAll() { registrations.clear(); }
+
     // Another program holds the combination.
     void holdElsewhere(Combination combination) { heldElsewhere.insert(combination); }
     void failInstallation(OsStatus status) { installationStatus = status; }

@@ -42,6 +42,30 @@ TEST_F(LayoutOverlayTest, FramesAreLabelledInTheirOrderAndTheLegendFollows)
     EXPECT_EQ(state(), States::overlayOn);
 }
 
+TEST_F(LayoutOverlayTest, NobodyWatchesTheWindowAfterTheOverlay)
+{
+    launch();
+    show();
+    EXPECT_EQ(desktop.accessibility.observerCount(), 1U);
+    type(keyCodes::escape);
+    EXPECT_EQ(desktop.accessibility.observerCount(), 0U);
+    show();
+    type(keyCodes::a);
+    EXPECT_EQ(window.frame(), (AxRect{0, 25, 1440, 875}));
+    EXPECT_EQ(desktop.accessibility.observerCount(), 0U);
+}
+
+TEST_F(LayoutOverlayTest, ALateKeyAfterTheEndDoesNothing)
+{
+    launch();
+    show();
+    desktop.press(keyCodes::escape);
+    desktop.press(keyCodes::a);
+    desktop.drain();
+    EXPECT_EQ(window.frame(), (AxRect{100, 100, 800, 600}));
+    EXPECT_TRUE(isOverlayGone());
+}
+
 TEST_F(LayoutOverlayTest, EqualFramesShowTheLaterLetterAndBothLettersWork)
 {
     desktop.bundle.addResource("layouts", "json", R"({"layouts": [{"id": "twins", "name": "Twins", "windows": [

@@ -9,6 +9,7 @@
 
 #include "app/MainController.h"
 #include "tests/unit/app/AppScreens.h"
+#include "tests/unit/app/Leftovers.h"
 #include "tests/unit/layouts/CatalogueFixture.h"
 
 namespace quorvel {
@@ -292,21 +293,7 @@ std::optional<std::string> ModeWalker::problem()
     const auto mode = modeOn();
     const bool isSameMode = mode == std::exchange(earlierMode, mode);
     isReleased = isReleased && isSameMode;
-    if (mode != Mode::none) {
-        return problemOf(mode);
-    }
-    if (!app.blocker().blockedKeyCodes().empty()) {
-        return "keys are blocked without a mode";
-    }
-    if (!desktop.overlayWindows.visible().empty()) {
-        return fmt::format("{} windows are up without a mode", desktop.overlayWindows.visible().size());
-    }
-    if (modes.focusSwitcherMouseMonitor.isActive() || !modes.minimizedWindowsPanels.empty() ||
-        !modes.allWindowsListPanels.empty() || modes.isMinimizedPanelVisible || modes.isAllWindowsPanelVisible ||
-        modes.eventMonitor.isActive()) {
-        return "a mode left something behind";
-    }
-    return std::nullopt;
+    return mode != Mode::none ? problemOf(mode) : leftoverOf(controller(), app.blocker(), desktop);
 }
 
 // A mode has its keys, all of them and no others.
@@ -327,7 +314,8 @@ std::optional<std::string> ModeWalker::problemOf(Mode mode)
 
 std::optional<std::string> ModeWalker::problemAfterExit()
 {
-    return modeOn() != Mode::none ? "a mode is still on after the exit" : problem();
+    const auto found = problem();
+    return found ? found : leftoverOf(controller(), app.blocker(), desktop);
 }
 
 } // namespace quorvel

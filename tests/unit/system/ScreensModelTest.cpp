@@ -197,6 +197,18 @@ TEST_F(ScreensModelTest, SteppingFromADetachedScreenIsFatal)
     EXPECT_TRUE(fatalErrorOf([this] { static_cast<void>(model.nextScreen()); }));
 }
 
+TEST_F(ScreensModelTest, ADetachedScreenHasNoNeighbour)
+{
+    desktop.screens.connect({primary, rightSameSize});
+    current->screen = rightSameSize;
+    EXPECT_EQ(model.neighbour(ScreenStep::next)->currentScreen(), primary);
+    current->screen = rightSameSize;
+    desktop.screens.remove(rightSameSize.id);
+    EXPECT_FALSE(model.neighbour(ScreenStep::next));
+    EXPECT_FALSE(model.neighbour(ScreenStep::previous));
+    EXPECT_EQ(model.currentScreen(), rightSameSize);
+}
+
 TEST_F(ScreensModelTest, SelectingEndsTheStayOnADetachedScreen)
 {
     desktop.screens.connect({primary});
