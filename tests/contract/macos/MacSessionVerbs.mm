@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include "macos/fakes/WindowMirror.h"
 #include "platform/macos/Strings.h"
 
 namespace quorvel::contract {
@@ -37,7 +38,7 @@ Size MacSessionVerbs::contentSize(std::string_view title)
 void MacSessionVerbs::resize(std::string_view title, const Size& contentSize)
 {
     NSWindow* const window = shownWindow(title);
-    const NSSize least = [window contentMinSize];
+    const NSSize least = fakes::mirrorOf(window).leastSize;
     [window setContentSize:NSMakeSize(std::max(contentSize.width, static_cast<double>(least.width)),
                                       std::max(contentSize.height, static_cast<double>(least.height)))];
 }

@@ -176,6 +176,16 @@ NSString* note(id object, const char* name)
 
 @end
 
+// Sources of tables of cells have to have it, those of views need not.
+@implementation NSObject (TableSources)
+
+- (id)tableView:(NSTableView*)table objectValueForTableColumn:(NSTableColumn*)column row:(NSInteger)row
+{
+    return nil;
+}
+
+@end
+
 @implementation NSTableCellView
 
 @synthesize textField = _textField;

@@ -48,6 +48,20 @@ std::map<NSView*, BOOL> clipping;
 
 @end
 
+@implementation NSView (Constraints)
+
+- (void)addConstraint:(NSLayoutConstraint*)constraint
+{
+    NSSize& least = mirrorOf([self window]).leastSize;
+    if ([[self window] contentView] != self || [constraint firstItem] != self ||
+        [constraint relation] != NSLayoutRelationGreaterThanOrEqual) {
+        quorvel::fakes::complain("A constraint that is not for the least size of a window");
+    }
+    ([constraint firstAttribute] == NSLayoutAttributeWidth ? least.width : least.height) = [constraint constant];
+}
+
+@end
+
 @implementation NSWindow (Showing)
 
 - (NSInteger)animationBehavior

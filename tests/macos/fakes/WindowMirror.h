@@ -24,6 +24,7 @@ public:
     unsigned collectionBehavior = 0;
     NSInteger animationBehavior = 0;
     std::string frameAutosaveName;
+    NSSize leastSize = NSZeroSize; // that the content's constraints let it have
 
 private:
     void create();

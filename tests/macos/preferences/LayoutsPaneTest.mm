@@ -88,7 +88,10 @@ protected:
     {
         Texts result;
         for (NSInteger row = 0; row < [[table dataSource] numberOfRowsInTableView:table]; ++row) {
-            result.push_back(utf8([[table dataSource] tableView:table objectValueForTableColumn:nil row:row]));
+            NSView* const view = viewAt(table, row);
+            result.push_back(utf8([view isKindOfClass:[NSTableCellView class]]
+                                      ? [[static_cast<NSTableCellView*>(view) textField] stringValue]
+                                      : [static_cast<NSButton*>(view) title]));
         }
         return result;
     }

@@ -3,7 +3,10 @@
 #import <Foundation/NSDebug.h>
 
 #include "macos/fakes/Sheets.h"
+#include "macos/fakes/WindowMirror.h"
 #include "macos/preferences/PreferencesTest.h"
+#include "platform/macos/NotificationTokens.h"
+#include "platform/macos/Retained.h"
 
 namespace quorvel::macos {
 namespace {
@@ -47,13 +50,50 @@ TEST_F(PreferencesWindowTest, TheWindowIsDressedAsItsContentSays)
     open();
     EXPECT_EQ([[window() contentView] frame].size.width, 1050.0);
     EXPECT_EQ([[window() contentView] frame].size.height, 785.0);
-    EXPECT_EQ([window() contentMinSize].width, 950.0);
-    EXPECT_EQ([window() contentMinSize].height, 705.0);
     EXPECT_TRUE([window() titlebarAppearsTransparent]);
     EXPECT_EQ([window() toolbarStyle], NSWindowToolbarStyleUnified);
     EXPECT_NE([window() representedURL], nil);
     EXPECT_FALSE([window() isReleasedWhenClosed]);
     EXPECT_TRUE([window() styleMask] & NSWindowStyleMaskResizable);
+}
+
+TEST_F(PreferencesWindowTest, TheViewOfTheWindowKeepsItFromGettingTooSmall)
+{
+    open();
+    EXPECT_TRUE(NSEqualSizes(fakes::mirrorOf(window()).leastSize, NSMakeSize(950.0, 705.0)));
+}
+
+TEST_F(PreferencesWindowTest, TheControllerOfTheViewBearsTheWindowsTitle)
+{
+    open();
+    auto* const tabs = static_cast<NSTabViewController*>([static_cast<NSTabView*>([window() contentView]) delegate]);
+    EXPECT_EQ(utf8([tabs title]), "Preferences");
+    EXPECT_FALSE([tabs canPropagateSelectedChildViewControllerTitle]);
+}
+
+TEST_F(PreferencesWindowTest, TabsHaveTheirTitlesUnderTheirSymbols)
+{
+    open();
+    const auto toolbar = Retained<NSToolbar*>::adopt([[NSToolbar alloc] initWithIdentifier:@"tabs"]);
+    [toolbar.get() setDisplayMode:NSToolbarDisplayModeIconOnly];
+    [window() setToolbar:toolbar.get()]; // as the controller of the tabs does
+    controller->showWindow();
+    EXPECT_EQ([toolbar.get() displayMode], NSToolbarDisplayModeIconAndLabel);
+}
+
+TEST_F(PreferencesWindowTest, TheColorPanelClosesWithTheWindow)
+{
+    open();
+    chooseTab(layoutAppearanceTab);
+    NSColorPanel* const panel = [NSColorPanel sharedColorPanel];
+    [panel orderFront:nil];
+    int closings = 0;
+    const auto token = observeNotification([NSNotificationCenter defaultCenter], NSWindowWillCloseNotification,
+                                           [&](NSNotification* each) { closings += [each object] == panel ? 1 : 0; });
+    [window() performClose:nil];
+    EXPECT_FALSE([panel isVisible]);
+    EXPECT_EQ(closings, 1) << "wells hear of that";
+    fakes::forgetMirror(panel); // it outlives the desktop
 }
 
 TEST_F(PreferencesWindowTest, TheTabsHaveTheirTitlesInOrder)

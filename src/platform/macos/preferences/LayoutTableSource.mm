@@ -26,11 +26,6 @@ std::size_t rowIndex(NSInteger row)
     return table == nullptr ? 0 : static_cast<NSInteger>(table->rows().size());
 }
 
-- (id)tableView:(NSTableView*)tableView objectValueForTableColumn:(NSTableColumn*)column row:(NSInteger)row
-{
-    return macos::nsString(table->rows().at(rowIndex(row)).name);
-}
-
 - (NSView*)tableView:(NSTableView*)tableView viewForTableColumn:(NSTableColumn*)column row:(NSInteger)row
 {
     return table->rows().at(rowIndex(row)).view.get();

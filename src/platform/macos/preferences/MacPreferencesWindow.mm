@@ -16,6 +16,17 @@ NSSize nsSize(Size size)
     return NSMakeSize(size.width, size.height);
 }
 
+void keepAtLeast(NSView* view, NSLayoutAttribute side, double length)
+{
+    [view addConstraint:[NSLayoutConstraint constraintWithItem:view
+                                                     attribute:side
+                                                     relatedBy:NSLayoutRelationGreaterThanOrEqual
+                                                        toItem:nil
+                                                     attribute:NSLayoutAttributeNotAnAttribute
+                                                    multiplier:1.0
+                                                      constant:length]];
+}
+
 std::unique_ptr<Pane> createPane(const PreferencesTab& tab, MainQueue& mainQueue, double narrowest)
 {
     if (auto* const* const form = std::get_if<FormModel*>(&tab.pane)) {
@@ -58,6 +69,7 @@ MacPreferencesWindow::~MacPreferencesWindow()
 void MacPreferencesWindow::show()
 {
     showInTheMiddle(window.get());
+    [[window.get() toolbar] setDisplayMode:NSToolbarDisplayModeIconAndLabel]; // which it has from now on
 }
 
 NotificationObject MacPreferencesWindow::notificationObject() const
@@ -68,7 +80,10 @@ NotificationObject MacPreferencesWindow::notificationObject() const
 void MacPreferencesWindow::addTabs(const PreferencesWindowContent& content, MainQueue& mainQueue)
 {
     [tabs.get() setTabStyle:NSTabViewControllerTabStyleToolbar];
-    [tabs.get() setCanPropagateSelectedChildViewControllerTitle:NO]; // the window has a title of its own
+    [tabs.get() setTransitionOptions:NSViewControllerTransitionNone];
+    // The window's title is bound to this one.
+    [tabs.get() setCanPropagateSelectedChildViewControllerTitle:NO];
+    [tabs.get() setTitle:nsString(content.title)];
     for (const auto& tab : content.tabs) {
         panes.push_back(createPane(tab, mainQueue, content.minimumSize.width));
         [panes.back()->view() setFrameSize:nsSize(content.size)];
@@ -87,7 +102,9 @@ void MacPreferencesWindow::dress(const PreferencesWindowContent& content) const
     [view setToolbarStyle:NSWindowToolbarStyleUnified];
     [view setAutorecalculatesKeyViewLoop:YES];
     [view setContentSize:nsSize(content.size)];
-    [view setContentMinSize:nsSize(content.minimumSize)];
+    // A window with a view controller heeds the constraints of its view instead of a minimum size of its own.
+    keepAtLeast([view contentView], NSLayoutAttributeWidth, content.minimumSize.width);
+    keepAtLeast([view contentView], NSLayoutAttributeHeight, content.minimumSize.height);
     // The title bar has an icon only where the window stands for a file.
     [view setRepresentedURL:[NSURL fileURLWithPath:[[NSBundle mainBundle] bundlePath]]];
     [[view standardWindowButton:NSWindowDocumentIconButton] setImage:[NSImage imageNamed:nsString(content.iconName)]];
@@ -96,7 +113,7 @@ void MacPreferencesWindow::dress(const PreferencesWindowContent& content) const
 void MacPreferencesWindow::willClose()
 {
     if ([NSColorPanel sharedColorPanelExists]) {
-        [[NSColorPanel sharedColorPanel] orderOut:nil];
+        [[NSColorPanel sharedColorPanel] close]; // at which color wells let go of it
     }
     model.windowWillClose();
 }

@@ -5,6 +5,7 @@
 #import <AppKit/NSApplication.h>
 #import <AppKit/NSColorSpace.h>
 #import <AppKit/NSFont.h>
+#import <AppKit/NSLayoutConstraint.h>
 #import <AppKit/NSView.h>
 #import <AppKit/NSWindow.h>
 #include <CoreFoundation/CoreFoundation.h>
@@ -32,6 +33,12 @@ inline constexpr NSFontWeight NSFontWeightBold = 0.4;
 @property BOOL clipsToBounds;
 
 - (void)viewDidChangeBackingProperties;
+
+@end
+
+@interface NSView (Constraints)
+
+- (void)addConstraint:(NSLayoutConstraint*)constraint;
 
 @end
 
