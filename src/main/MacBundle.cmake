@@ -1,7 +1,5 @@
 # Quorvel.app: the program, what is shipped with it, and a signature, without which macOS would forget the permissions of
 # a program on every change of a resource.
-include(${PROJECT_SOURCE_DIR}/src/platform/macos/UpdateFramework.cmake)
-
 set_target_properties(quorvel PROPERTIES
     MACOSX_BUNDLE ON
     OUTPUT_NAME Quorvel
