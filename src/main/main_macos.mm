@@ -38,6 +38,12 @@
     program.reset();
 }
 
+// Nothing is restored; without this answer the system says so at every start.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application
+{
+    return YES;
+}
+
 @end
 
 int main()

@@ -51,6 +51,11 @@ TEST_F(MacStatusBarTest, TheImageIsDrawnInTheColourOfTheMenuBar)
     EXPECT_TRUE([image isTemplate]);
 }
 
+TEST_F(MacStatusBarTest, ScreenReadersNameTheProgram)
+{
+    EXPECT_EQ(utf8([[fakes::statusItem() button] accessibilityLabel]), "Quorvel");
+}
+
 TEST_F(MacStatusBarTest, AMissingImageLeavesTheButtonWithoutOne)
 {
     item->setImage({"Nonsense", true});

@@ -13,6 +13,7 @@ MacStatusItem::MacStatusItem(Retained<NSBundle*> bundle)
 {
     [shownMenu.get() setAutoenablesItems:NO];
     [shownMenu.get() setDelegate:filler.get()];
+    [[item.get() button] setAccessibilityLabel:[this->bundle.get() objectForInfoDictionaryKey:@"CFBundleName"]];
 }
 
 MacStatusItem::~MacStatusItem()
