@@ -7,6 +7,7 @@
 #include "base/Subscription.h"
 #include "platform/Platform.h"
 #include "platform/StandardOutputLog.h"
+#include "platform/macos/desktop/FocusReturn.h"
 #include "platform/macos/desktop/MacAlerts.h"
 #include "platform/macos/desktop/MacBundle.h"
 #include "platform/macos/desktop/MacDates.h"
@@ -30,6 +31,7 @@
 #include "platform/macos/windows/MacAccessibility.h"
 #include "platform/macos/windows/MacWindowList.h"
 #include "platform/macos/windows/MacWorkspace.h"
+#include "system/InsistentWorkspace.h"
 #include "system/VigilantAccessibility.h"
 
 namespace quorvel {
@@ -57,17 +59,19 @@ private:
     macos::MacHotKeys hotKeys;
     macos::MacEventTaps eventTaps;
     macos::MacWindowList windowList;
-    macos::MacWorkspace workspace{mainQueue};
+    macos::MacWorkspace macWorkspace{mainQueue};
     macos::MacScreens screens;
     macos::MacKeyboardLayout keyboardLayout;
     macos::MacEventMonitors eventMonitors;
     macos::MacTextMetrics textMetrics;
     macos::MacOverlayWindows overlayWindows;
     macos::MacSystemColors systemColors;
-    macos::MacPermissions permissions{workspace};
+    macos::MacPermissions permissions{macWorkspace};
     macos::MacStatusBar statusBar;
     macos::MacAlerts alerts;
-    VigilantAccessibility accessibility{{macAccessibility, permissions, mainQueue, workspace, alerts, log}};
+    VigilantAccessibility accessibility{{macAccessibility, permissions, mainQueue, macWorkspace, alerts, log}};
+    InsistentWorkspace workspace{{macWorkspace, accessibility, mainQueue}};
+    macos::FocusReturn focusReturn{workspace, mainQueue};
     macos::MacLoginItem loginItem;
     std::unique_ptr<macos::MacUpdater> updater = macos::MacUpdater::make(); // null in a bundle without the framework
     macos::MacPreferencesUi preferencesUi{mainQueue};

@@ -54,6 +54,7 @@ using AxValue = std::variant<std::monostate, bool, std::string, AxPoint, Size, A
 namespace axNames {
 inline constexpr std::string_view focusedWindow = "AXFocusedWindow";
 inline constexpr std::string_view windows = "AXWindows";
+inline constexpr std::string_view frontmost = "AXFrontmost";
 inline constexpr std::string_view role = "AXRole";
 inline constexpr std::string_view title = "AXTitle";
 inline constexpr std::string_view position = "AXPosition";
@@ -87,7 +88,8 @@ public:
 //
 // Attributes, by element:
 //   application   "AXFocusedWindow" (element), "AXWindows" (elements: first those on screen, front to back, so that of
-//                 windows in one place the one that can be seen comes first; minimized ones last)
+//                 windows in one place the one that can be seen comes first; minimized ones last); on macOS also
+//                 "AXFrontmost" (Boolean, settable), which brings it forward
 //   window        "AXRole" (text; "AXWindow" for what a person calls a window), "AXTitle" (text), "AXPosition" (point,
 //                 settable), "AXSize" (size, settable), "AXMinimized" (Boolean, settable); action "AXRaise";
 //                 notifications "AXMoved", "AXResized", "AXUIElementDestroyed"

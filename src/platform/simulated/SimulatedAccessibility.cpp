@@ -74,7 +74,7 @@ std::expected<void, AxError> SimulatedAccessibility::setAttribute(const AxElemen
         return std::unexpected(*error);
     }
     if (target->window == nullptr) {
-        return std::unexpected(axErrors::attributeUnsupported);
+        return writeApplication(target->element->process(), name, value);
     }
     return write(*target->window, name, value);
 }
@@ -193,6 +193,16 @@ std::expected<AxValue, AxError> SimulatedAccessibility::read(const Target& targe
     }
     return target.window != nullptr ? readWindow(*target.window, name)
                                     : readApplication(target.element->process(), name);
+}
+
+std::expected<void, AxError> SimulatedAccessibility::writeApplication(ProcessId process, std::string_view name,
+                                                                      const AxValue& value)
+{
+    if (name != axNames::frontmost || value != AxValue(true)) {
+        return std::unexpected(axErrors::attributeUnsupported);
+    }
+    windowServer.activate(process);
+    return {};
 }
 
 std::expected<AxValue, AxError> SimulatedAccessibility::readApplication(ProcessId process, std::string_view name) const

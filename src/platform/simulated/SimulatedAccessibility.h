@@ -71,6 +71,7 @@ private:
     std::expected<Target, AxError> resolve(const AxElementRef& element) const;
     std::expected<AxValue, AxError> read(const Target& target, std::string_view name) const;
     std::expected<AxValue, AxError> readApplication(ProcessId process, std::string_view name) const;
+    std::expected<void, AxError> writeApplication(ProcessId process, std::string_view name, const AxValue& value);
     std::expected<void, AxError> write(SimulatedWindow& window, std::string_view name, const AxValue& value);
 
     std::expected<void, AxError> addNotification(Registration& registration, const AxElementRef& element,

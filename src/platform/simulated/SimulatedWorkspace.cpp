@@ -64,7 +64,9 @@ std::vector<RunningApplication> SimulatedWorkspace::runningApplications()
 void SimulatedWorkspace::activate(ProcessId process)
 {
     journal.record("Workspace.activate({})", process);
-    windowServer.activate(process);
+    if (!activationsRefused) {
+        windowServer.activate(process);
+    }
 }
 
 void SimulatedWorkspace::activateSelf()

@@ -29,6 +29,9 @@ public:
     const std::vector<std::string>& openedAddresses() const { return opened; }
     std::size_t terminationRequests() const { return terminations; }
 
+    // From now on other applications stay where they are, as a system may decide for a program that is not in front.
+    void refuseActivations() { activationsRefused = true; }
+
     // Second instances that came up.
     std::size_t relaunches() const { return secondInstances; }
     void failRelaunches() { relaunchesFail = true; }
@@ -43,6 +46,7 @@ private:
     std::size_t terminations = 0;
     std::size_t secondInstances = 0;
     bool relaunchesFail = false;
+    bool activationsRefused = false;
 };
 
 } // namespace quorvel

@@ -31,7 +31,9 @@ Alert description(NSAlert* alert)
     if (alert.buttons.size() > 1 && ![[[[self buttons] lastObject] keyEquivalent] isEqual:@"\033"]) {
         fakes::complain("Escape does not press the last button of an alert");
     }
-    return NSAlertFirstButtonReturn + static_cast<NSInteger>(FakeDesktop::current().desktop.alerts.runModal(alert));
+    const auto answer = FakeDesktop::current().desktop.alerts.runModal(alert);
+    [[NSNotificationCenter defaultCenter] postNotificationName:NSWindowDidResignKeyNotification object:[self window]];
+    return NSAlertFirstButtonReturn + static_cast<NSInteger>(answer);
 }
 
 @end

@@ -69,6 +69,9 @@ NSRunningApplication* object(const std::optional<RunningApplication>& applicatio
 
 @end
 
+NSString* const NSWorkspaceDidActivateApplicationNotification = @"NSWorkspaceDidActivateApplicationNotification";
+NSString* const NSWorkspaceApplicationKey = @"NSWorkspaceApplicationKey";
+
 @implementation NSWorkspace
 
 + (NSWorkspace*)sharedWorkspace

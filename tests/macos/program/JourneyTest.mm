@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "macos/fakes/StatusItems.h"
+#include "macos/preferences/Person.h"
 #include "macos/program/MacProgramFixture.h"
 
 namespace quorvel {
@@ -12,6 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
+namespace person = macos::person;
 
 constexpr std::uint64_t commandShift = eventFlags::command | eventFlags::shift;
 constexpr std::uint64_t commandOption = eventFlags::command | eventFlags::option;
@@ -34,6 +36,22 @@ protected:
         EXPECT_TRUE(fakes::chooseFromStatusMenu(title));
         settle();
     }
+
+    static NSWindow* preferences() { return person::window("Preferences"); }
+
+    // As the system announces it.
+    static void comesToTheFront(ProcessId process)
+    {
+        NSWorkspace* const workspace = [NSWorkspace sharedWorkspace];
+        const auto onSystem = fakes::FakeDesktop::onSystem(process);
+        NSRunningApplication* const application =
+            [NSRunningApplication runningApplicationWithProcessIdentifier:onSystem];
+        [[workspace notificationCenter] postNotificationName:NSWorkspaceDidActivateApplicationNotification
+                                                      object:workspace
+                                                    userInfo:@{NSWorkspaceApplicationKey : application}];
+    }
+
+    static void comesToTheFront(const SimulatedApplication& application) { comesToTheFront(application.process()); }
 
     static void store(NSString* key, BOOL value)
     {
@@ -132,7 +150,7 @@ TEST_F(JourneyTest, TheMoveResizeModeMovesAndResizesUnderItsFrame)
     EXPECT_THAT(shown(), IsEmpty());
 }
 
-TEST_F(JourneyTest, TheOnboardingGoesThroughBothPermissionsToTheRestart)
+TEST_F(JourneyTest, TheOnboardingGoesThroughBothPermissionsAndTheRestartToTheEnd)
 {
     desktop.permissions.deny(Permission::accessibility);
     desktop.permissions.deny(Permission::inputMonitoring);
@@ -156,6 +174,80 @@ TEST_F(JourneyTest, TheOnboardingGoesThroughBothPermissionsToTheRestart)
     ASSERT_THAT(desktop.alerts.shown(), SizeIs(3));
     EXPECT_EQ(desktop.alerts.shown()[2].messageText, "Restart Quorvel");
     EXPECT_EQ(desktop.workspace.relaunches(), 1U);
+    EXPECT_EQ(desktop.workspace.terminationRequests(), 1U);
+
+    program->applicationWillTerminate();
+    program.emplace(folder.bundle());
+    launchBehindTheEditor();
+    EXPECT_THAT(desktop.alerts.shown(), SizeIs(3)) << "the new instance has nothing to ask";
+    type(keyO, commandShift);
+    type(keyCodes::a);
+    EXPECT_EQ(window.frame(), (AxRect{0, 25, 1440, 875}));
+    EXPECT_THAT(editor.receivedKeys(), IsEmpty()) << "its tap took the letter";
+    EXPECT_FALSE(desktop.overlayWindows.keyPanel());
+}
+
+TEST_F(JourneyTest, ThePreferencesAreOpenedAControlIsChangedAndTheyAreClosed)
+{
+    launchBehindTheEditor();
+    choose("Preferences...");
+    ASSERT_NE(preferences(), nil);
+    EXPECT_EQ(desktop.windowServer.frontmostProcess(), SimulatedWindowServer::ownProcess);
+    EXPECT_THAT(desktop.hotKeys.registered(), IsEmpty());
+
+    [static_cast<NSTabView*>([preferences() contentView]) selectTabViewItemAtIndex:2]; // Layout Appearance
+    settle();
+    auto* const width = person::find<NSSlider>(preferences(), "Overlay, Border width");
+    ASSERT_NE(width, nil);
+    [width setDoubleValue:7.5];
+    person::use(width);
+    settle();
+    EXPECT_EQ([[[NSUserDefaults standardUserDefaults] objectForKey:@"overlayBorderWidth"] doubleValue], 7.5);
+
+    [preferences() performClose:nil];
+    settle();
+    EXPECT_EQ(preferences(), nil);
+    EXPECT_THAT(desktop.hotKeys.registered(), SizeIs(3));
+    type(keyO, commandShift);
+    EXPECT_THAT(shown(), SizeIs(2)) << "the window in front is the user's again";
+}
+
+TEST_F(JourneyTest, ClosingAboutLeavesThePreferencesInFront)
+{
+    launchBehindTheEditor();
+    choose("Preferences...");
+    choose("About Quorvel...");
+    [person::window("About Quorvel") performClose:nil];
+    settle();
+    EXPECT_EQ(desktop.windowServer.frontmostProcess(), SimulatedWindowServer::ownProcess);
+
+    [preferences() performClose:nil];
+    settle();
+    EXPECT_EQ(desktop.windowServer.frontmostProcess(), editor.process());
+}
+
+TEST_F(JourneyTest, TheFocusGoesToWhomTheUserWorkedWithLast)
+{
+    launchBehindTheEditor();
+    choose("Preferences...");
+    comesToTheFront(desktop.launch("Mail"));
+    [NSApp activateIgnoringOtherApps:YES]; // a click on the preferences
+    comesToTheFront(SimulatedWindowServer::ownProcess);
+    [preferences() performClose:nil];
+    settle();
+
+    EXPECT_EQ(desktop.workspace.frontmostApplication()->localizedName, "Mail");
+}
+
+TEST_F(JourneyTest, AnAlertThatIsPutOffGivesTheFocusBack)
+{
+    desktop.permissions.deny(Permission::accessibility);
+    desktop.alerts.choose("Later");
+    launch();
+    ASSERT_THAT(desktop.alerts.shown(), SizeIs(1));
+    desktop.advance(2.0);
+
+    EXPECT_EQ(desktop.windowServer.frontmostProcess(), editor.process());
 }
 
 TEST_F(JourneyTest, TheMenuHasSixEntriesThatDoWhatTheySay)

@@ -7,6 +7,7 @@
 
 #include "base/Keys.h"
 #include "contract/macos/BundleFolder.h"
+#include "macos/compat/Pool.h"
 #include "macos/fakes/DisplayServer.h"
 #include "macos/fakes/FakeDesktop.h"
 #include "main/MacProgram.h"
@@ -59,6 +60,7 @@ protected:
 
     SimulatedDesktop desktop;
     fakes::FakeDesktop mac{desktop};
+    fakes::Pool pool; // windows in it go before the desktop that they are on
     SimulatedApplication& editor = desktop.launch("Editor");
     SimulatedWindow& window = desktop.openWindow(editor, "Notes", {100, 100, 800, 600});
     contract::BundleFolder folder;

@@ -33,6 +33,9 @@
 
 @end
 
+extern NSString* const NSWorkspaceDidActivateApplicationNotification;
+extern NSString* const NSWorkspaceApplicationKey;
+
 #define NSWorkspace QuorvelWorkspace
 @interface QuorvelWorkspace : NSObject
 
