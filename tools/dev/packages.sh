@@ -27,6 +27,7 @@ debianPackages() {
         echo fonts-dejavu-core
         echo llvm python3 python3-yaml # for the check against Apple's headers
         ;;
+    package) echo debhelper dpkg-dev fakeroot xz-utils lintian appstream desktop-file-utils debootstrap ;;
     bench)
         echo libbenchmark-dev xvfb openbox picom xterm rofi sxhkd wmctrl fonts-dejavu-core
         ;;
