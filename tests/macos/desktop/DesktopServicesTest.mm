@@ -7,6 +7,7 @@
 #include "macos/fakes/FakeDesktop.h"
 #include "platform/macos/desktop/MacBundle.h"
 #include "platform/macos/desktop/MacLoginItem.h"
+#include "platform/macos/desktop/MacMainQueue.h"
 #include "platform/macos/desktop/MacUpdater.h"
 
 namespace quorvel::macos {
@@ -17,6 +18,22 @@ protected:
     SimulatedDesktop desktop;
     fakes::FakeDesktop mac{desktop};
 };
+
+TEST_F(DesktopServicesTest, TheMainQueueTurnsWhileAnAlertOfItsWorkIsShown)
+{
+    MacMainQueue queue;
+    std::vector<std::string> notes;
+    queue.async([&] {
+        queue.async([&] { notes.emplace_back("added by it"); });
+        queue.after(std::chrono::seconds(1), [&] { notes.emplace_back("a second later"); });
+        desktop.advance(1.0); // the alert's own loop
+        notes.emplace_back("the alert goes");
+    });
+    queue.async([&] { notes.emplace_back("added before"); });
+    desktop.drain();
+
+    EXPECT_THAT(notes, testing::ElementsAre("added before", "added by it", "a second later", "the alert goes"));
+}
 
 TEST_F(DesktopServicesTest, ALoginItemThatNeedsApprovalSaysSo)
 {

@@ -30,6 +30,7 @@ public:
 
     // Sources that the run loop holds. A program that ends leaves none behind.
     std::size_t runLoopSources = 0;
+    std::vector<std::shared_ptr<void>> runLoopBlocks;
 
     // Accessibility: what applications say to "AXEnhancedUserInterface", and the seconds that calls have waited for
     // applications that hang.

@@ -1,10 +1,13 @@
 #include "platform/macos/desktop/MacMainQueue.h"
 
+#include <deque>
 #include <memory>
+#include <mutex>
 #include <utility>
 
 #import <Foundation/Foundation.h>
-#include <dispatch/dispatch.h>
+
+#include "platform/macos/CfRef.h"
 
 namespace quorvel::macos {
 
@@ -35,19 +38,73 @@ private:
 
 } // namespace
 
+// What waits, in order. The run loop gets one block for each piece of work, and serves some of them all at once, in
+// which a loop inside the first would hold up the others; so each block takes what is first by then.
+class MacMainQueue::Waiting : public std::enable_shared_from_this<Waiting> {
+public:
+    void add(std::function<void()> work)
+    {
+        {
+            const std::lock_guard lock(mutex);
+            all.push_back(std::move(work));
+        }
+        callRunLoop();
+    }
+
+private:
+    void callRunLoop()
+    {
+        const auto self = shared_from_this();
+        CFRunLoopPerformBlock(CFRunLoopGetMain(), kCFRunLoopCommonModes, ^{
+          self->serve();
+        });
+        CFRunLoopWakeUp(CFRunLoopGetMain());
+    }
+
+    void serve()
+    {
+        auto [work, isLast] = take();
+        if (!isLast) {
+            callRunLoop(); // for a loop inside the work
+        }
+        if (work) {
+            @autoreleasepool {
+                work();
+            }
+        }
+    }
+
+    std::pair<std::function<void()>, bool> take()
+    {
+        const std::lock_guard lock(mutex);
+        if (all.empty()) {
+            return {nullptr, true};
+        }
+        auto first = std::move(all.front());
+        all.pop_front();
+        return {std::move(first), all.empty()};
+    }
+
+    std::mutex mutex;
+    std::deque<std::function<void()>> all;
+};
+
+MacMainQueue::MacMainQueue() : waiting(std::make_shared<Waiting>()) {}
+
 void MacMainQueue::async(std::function<void()> work)
 {
-    dispatch_async(dispatch_get_main_queue(), ^{
-      work();
-    });
+    waiting->add(std::move(work));
 }
 
 void MacMainQueue::after(std::chrono::duration<double> delay, std::function<void()> work)
 {
-    const auto nanoseconds = std::chrono::duration_cast<std::chrono::nanoseconds>(delay).count();
-    dispatch_after(dispatch_time(DISPATCH_TIME_NOW, nanoseconds), dispatch_get_main_queue(), ^{
-      work();
-    });
+    const auto timer = CfRef<CFRunLoopTimerRef>::adopt(CFRunLoopTimerCreateWithHandler(
+        kCFAllocatorDefault, CFAbsoluteTimeGetCurrent() + delay.count(), 0.0, 0, 0, ^(CFRunLoopTimerRef) {
+          @autoreleasepool {
+              work();
+          }
+        }));
+    CFRunLoopAddTimer(CFRunLoopGetMain(), timer.get(), kCFRunLoopCommonModes); // which keeps it until it has fired
 }
 
 Subscription MacMainQueue::repeat(std::chrono::duration<double> interval, std::function<void()> work)

@@ -44,6 +44,7 @@ using CFBooleanRef = const struct FakeCFBoolean*;
 using CFDataRef = const struct FakeCFData*;
 using CFRunLoopRef = struct FakeCFRunLoop*;
 using CFRunLoopSourceRef = struct FakeCFRunLoopSource*;
+using CFRunLoopTimerRef = struct FakeCFRunLoopTimer*;
 using CFMachPortRef = struct FakeCFMachPort*;
 using CFRunLoopMode = CFStringRef;
 
@@ -95,6 +96,13 @@ Boolean CFNumberGetValue(CFNumberRef number, CFNumberType type, void* value);
 const UInt8* CFDataGetBytePtr(CFDataRef data);
 
 CFRunLoopRef CFRunLoopGetMain();
+void CFRunLoopPerformBlock(CFRunLoopRef loop, CFTypeRef mode, void (^block)());
+void CFRunLoopWakeUp(CFRunLoopRef loop);
+CFAbsoluteTime CFAbsoluteTimeGetCurrent();
+CFRunLoopTimerRef CFRunLoopTimerCreateWithHandler(CFAllocatorRef allocator, CFAbsoluteTime fireDate,
+                                                  CFTimeInterval interval, CFOptionFlags flags, CFIndex order,
+                                                  void (^handler)(CFRunLoopTimerRef timer));
+void CFRunLoopAddTimer(CFRunLoopRef loop, CFRunLoopTimerRef timer, CFRunLoopMode mode);
 void CFRunLoopAddSource(CFRunLoopRef loop, CFRunLoopSourceRef source, CFRunLoopMode mode);
 void CFRunLoopRemoveSource(CFRunLoopRef loop, CFRunLoopSourceRef source, CFRunLoopMode mode);
 void CFRunLoopSourceInvalidate(CFRunLoopSourceRef source);
