@@ -1,11 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "base/Subscription.h"
 #include "platform/FormModel.h"
 #include "platform/FormShape.h"
+#include "platform/KeptPlace.h"
 #include "platform/macos/preferences/FormGroupView.h"
 #include "platform/macos/preferences/LaterCall.h"
 #include "platform/macos/preferences/Pane.h"
@@ -35,7 +37,15 @@ private:
     bool fits(const std::vector<Groups>& candidate) const;
     void showForm(const Form& form);
     void showOverlays(const Form& form);
-    const FormRowView* rowWithKeyboard() const;
+
+    // What takes the keyboard, row by row; that of the foot has no id.
+    struct KeyRow {
+        std::string id;
+        std::vector<NSControl*> views;
+    };
+    std::vector<KeyRow> keyRows() const;
+    KeptPlace placeOfKeyboard() const;
+    static std::vector<FocusableRow> focusable(const std::vector<KeyRow>& rows);
 
     void layOut() const;
     double layOutFoot(double bottom) const;

@@ -45,10 +45,7 @@ void FormPane::refresh()
 
 void FormPane::build(const Form& form)
 {
-    std::string focused;
-    if (const auto* const row = rowWithKeyboard()) {
-        focused = row->id();
-    }
+    const KeptPlace kept = placeOfKeyboard();
     clear();
     for (const auto& group : form.groups) {
         groups.push_back(std::make_unique<FormGroupView>(model, group));
@@ -65,12 +62,9 @@ void FormPane::build(const Form& form)
         buttons.push_back(std::make_unique<PaneButtonView>(button, [this](const std::string& id) { model.press(id); }));
         box.add(buttons.back()->view());
     }
-    for (const auto& group : groups) {
-        for (const auto& row : group->allRows()) {
-            if (!focused.empty() && row->id() == focused) {
-                [[box.view() window] makeFirstResponder:row->keyView()];
-            }
-        }
+    const auto rows = keyRows();
+    if (const auto place = kept.among(focusable(rows))) {
+        [[box.view() window] makeFirstResponder:rows[place->row].views[place->control]];
     }
 }
 
@@ -100,20 +94,48 @@ bool FormPane::fits(const std::vector<Groups>& candidate) const
     return width + widest * static_cast<double>(candidate.size()) <= narrowest;
 }
 
-const FormRowView* FormPane::rowWithKeyboard() const
+std::vector<FormPane::KeyRow> FormPane::keyRows() const
+{
+    std::vector<KeyRow> rows;
+    for (const auto& group : groups) {
+        for (const auto& row : group->allRows()) {
+            rows.push_back({row->id(), row->keyViews()});
+        }
+    }
+    rows.emplace_back(); // the foot
+    for (const auto& button : buttons) {
+        rows.back().views.push_back(button->view());
+    }
+    return rows;
+}
+
+KeptPlace FormPane::placeOfKeyboard() const
 {
     const id first = [[box.view() window] firstResponder];
     if (![first isKindOfClass:[NSView class]]) {
-        return nullptr;
+        return {};
     }
-    for (const auto& group : groups) {
-        for (const auto& row : group->allRows()) {
-            if ([static_cast<NSView*>(first) isDescendantOf:row->view()]) {
-                return row.get();
+    const auto rows = keyRows();
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        for (std::size_t control = 0; control < rows[row].views.size(); ++control) {
+            if ([static_cast<NSView*>(first) isDescendantOf:rows[row].views[control]]) {
+                return KeptPlace(focusable(rows), {row, control});
             }
         }
     }
-    return nullptr;
+    return {};
+}
+
+std::vector<FocusableRow> FormPane::focusable(const std::vector<KeyRow>& rows)
+{
+    std::vector<FocusableRow> result;
+    for (const auto& row : rows) {
+        result.push_back({row.id, {}});
+        for (NSControl* const view : row.views) {
+            result.back().isEnabled.push_back([view isEnabled] != NO);
+        }
+    }
+    return result;
 }
 
 void FormPane::showForm(const Form& form)

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/Form.h"
 #include "platform/macos/preferences/PaneBox.h"
@@ -19,7 +20,7 @@ public:
     void show(const FormRow& row);
 
     NSView* view() const { return box.view(); }
-    NSView* keyView() const { return control->keyView(); }
+    std::vector<NSControl*> keyViews() const { return control->keyViews(); }
     const std::string& id() const { return rowId; }
 
     // The least width at which nothing is cut, and the height at a width.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/LayoutsPaneShape.h"
 #include "platform/macos/Strings.h"
 #include "platform/macos/preferences/LayoutCellView.h"
 #include "platform/macos/preferences/PaneMetrics.h"
@@ -59,28 +60,23 @@ LayoutTable::Actions LayoutsPane::selectedActions()
 {
     return {.select = [this](const TableSelection& rows) { model.selectSelected(rows); },
             .activate = [this](std::size_t row) { model.doubleClickSelected(row); },
-            .remove =
-                [this] {
-                    // What is shown may not have followed the selection yet.
-                    if (const auto& button = model.content().remove; button.isEnabled) {
-                        model.press(button.id);
-                    }
-                },
+            .remove = [this] { model.press(shown.remove.id); },
             .move = [this](LayoutsPaneModel::RowMove move) { model.moveSelected(move); }};
 }
 
 void LayoutsPane::refresh()
 {
-    if (!std::ranges::equal(model.content().selected, shown.selected, &SelectedLayoutRow::hasSameCell)) {
+    if (changesBetween(shown, model.content()).selected == SelectedRowsChange::rows) {
         finishEditing();
     }
     const auto content = model.content();
-    if (content.available != shown.available) {
+    const auto changes = changesBetween(shown, content);
+    if (changes.hasOtherAvailableRows) {
         showAvailable(content);
     }
-    if (!std::ranges::equal(content.selected, shown.selected, &SelectedLayoutRow::hasSameCell)) {
+    if (changes.selected == SelectedRowsChange::rows) {
         showSelected(content);
-    } else if (content.selected != shown.selected) {
+    } else if (changes.selected == SelectedRowsChange::digits) {
         showDigits(content.selected);
     }
     available.selectRows(content.availableSelection);
@@ -157,21 +153,10 @@ void LayoutsPane::finishEditing() const
 
 void LayoutsPane::endEditing(const std::string& layoutID, const std::string& digit)
 {
-    const auto rowOf = [&](const std::vector<SelectedLayoutRow>& rows) {
-        return std::ranges::find(rows, layoutID, [](const SelectedLayoutRow& each) { return each.cell.layoutID; });
-    };
-    const auto before = model.content().selected;
-    const auto row = rowOf(before);
-    if (row == before.end() || row->digit == digit) {
-        return; // the keyboard has only passed by
-    }
-    model.endEditingDigit(static_cast<std::size_t>(row - before.begin()), digit);
-    // What was refused goes from the field, too.
-    const auto after = model.content().selected;
-    const auto kept = rowOf(after);
+    const auto kept = endEditingDigit(model, layoutID, digit);
     for (const auto& field : digitFields) {
-        if (kept != after.end() && utf8([field.view.get() identifier]) == layoutID) {
-            [field.view.get() setStringValue:nsString(kept->digit)];
+        if (utf8([field.view.get() identifier]) == layoutID) {
+            [field.view.get() setStringValue:nsString(kept)];
         }
     }
 }

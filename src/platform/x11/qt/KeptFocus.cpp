@@ -1,6 +1,7 @@
 #include "platform/x11/qt/KeptFocus.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quorvel::x11 {
@@ -13,19 +14,15 @@ bool hasKeyboard(const QWidget& control)
     return window->focusWidget() == &control;
 }
 
-// The one at that place, else the one nearest to it.
-QWidget* enabledControl(const FocusRow& row, std::size_t place)
+std::vector<FocusableRow> focusable(const std::vector<FocusRow>& rows)
 {
-    QWidget* nearest = nullptr;
-    std::size_t least = 0;
-    for (std::size_t index = 0; index < row.controls.size(); ++index) {
-        const std::size_t distance = index < place ? place - index : index - place;
-        if (row.controls[index]->isEnabled() && (nearest == nullptr || distance < least)) {
-            nearest = row.controls[index];
-            least = distance;
-        }
+    std::vector<FocusableRow> result;
+    for (const auto& row : rows) {
+        std::vector<bool> isEnabled;
+        std::ranges::transform(row.controls, std::back_inserter(isEnabled), &QWidget::isEnabled);
+        result.push_back({row.id, std::move(isEnabled)});
     }
-    return nearest;
+    return result;
 }
 
 } // namespace
@@ -43,13 +40,11 @@ FocusRow::FocusRow(std::string id, const std::vector<QWidget*>& widgets) : id(st
 
 KeptFocus::KeptFocus(const std::vector<FocusRow>& rows)
 {
-    for (auto row = rows.begin(); row != rows.end(); ++row) {
-        const auto control = std::ranges::find_if(row->controls, [](const auto* each) { return hasKeyboard(*each); });
-        if (control != row->controls.end()) {
-            place = static_cast<std::size_t>(control - row->controls.begin());
-            std::for_each(row, rows.end(), [this](const auto& each) { wanted.push_back(each.id); });
-            std::for_each(std::make_reverse_iterator(row), rows.rend(),
-                          [this](const auto& each) { wanted.push_back(each.id); });
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        const auto& controls = rows[row].controls;
+        const auto control = std::ranges::find_if(controls, [](const auto* each) { return hasKeyboard(*each); });
+        if (control != controls.end()) {
+            place = KeptPlace(focusable(rows), {row, static_cast<std::size_t>(control - controls.begin())});
             return;
         }
     }
@@ -57,15 +52,13 @@ KeptFocus::KeptFocus(const std::vector<FocusRow>& rows)
 
 QWidget* KeptFocus::restore(const std::vector<FocusRow>& rows) const
 {
-    for (const auto& id : wanted) {
-        const auto row = std::ranges::find(rows, id, &FocusRow::id);
-        auto* const control = row == rows.end() ? nullptr : enabledControl(*row, place);
-        if (control != nullptr) {
-            control->setFocus(Qt::OtherFocusReason);
-            return control;
-        }
+    const auto found = place.among(focusable(rows));
+    if (!found) {
+        return nullptr;
     }
-    return nullptr;
+    auto* const control = rows[found->row].controls[found->control];
+    control->setFocus(Qt::OtherFocusReason);
+    return control;
 }
 
 } // namespace quorvel::x11

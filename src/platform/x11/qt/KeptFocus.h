@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QWidget>
-#include <cstddef>
 #include <string>
 #include <vector>
+
+#include "platform/KeptPlace.h"
 
 namespace quorvel::x11 {
 
@@ -25,8 +26,7 @@ public:
     QWidget* restore(const std::vector<FocusRow>& rows) const;
 
 private:
-    std::vector<std::string> wanted; // rows: the one with the keyboard, those behind it, those before it
-    std::size_t place = 0;           // among the controls of the row
+    KeptPlace place;
 };
 
 } // namespace quorvel::x11

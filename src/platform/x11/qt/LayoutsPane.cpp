@@ -2,10 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
+#include "platform/LayoutsPaneShape.h"
 #include "platform/x11/desktop/ToolkitUi.h"
 #include "platform/x11/qt/LayoutCellWidget.h"
 #include "platform/x11/qt/LayoutTable.h"
@@ -113,13 +113,7 @@ LayoutTable* LayoutsPane::createSelectedTable()
                             .select = [this](const TableSelection& rows) { model.selectSelected(rows); },
                             .click = {},
                             .activate = [this](std::size_t row) { model.doubleClickSelected(row); },
-                            .remove =
-                                [this] {
-                                    // What is shown may not have followed the selection yet.
-                                    if (const auto& button = model.content().remove; button.isEnabled) {
-                                        model.press(button.id);
-                                    }
-                                },
+                            .remove = [this] { model.press(shown.remove.id); },
                             .move = [this](LayoutsPaneModel::RowMove move) { model.moveSelected(move); },
                         },
                         this);
@@ -136,12 +130,13 @@ LayoutTable* LayoutsPane::createSelectedTable()
 void LayoutsPane::refresh()
 {
     const auto content = model.content();
-    if (content.available != shown.available) {
+    const auto changes = changesBetween(shown, content);
+    if (changes.hasOtherAvailableRows) {
         showAvailable(content);
     }
-    if (!std::ranges::equal(content.selected, shown.selected, &SelectedLayoutRow::hasSameCell)) {
+    if (changes.selected == SelectedRowsChange::rows) {
         showSelected(content);
-    } else if (content.selected != shown.selected) {
+    } else if (changes.selected == SelectedRowsChange::digits) {
         showDigits(content.selected);
     }
     available->selectRows(content.availableSelection);
@@ -217,18 +212,11 @@ QWidget* LayoutsPane::createHeader(const LayoutSectionHeader& header)
 // A field that goes, since the order has changed, ends its editing, too: by then its row may be another layout's.
 void LayoutsPane::endEditing(const std::string& layoutID, const QString& digit)
 {
-    const auto selectedRows = model.content().selected;
-    const auto row =
-        std::ranges::find(selectedRows, layoutID, [](const SelectedLayoutRow& each) { return each.cell.layoutID; });
-    if (row == selectedRows.end()) {
-        return;
-    }
-    model.endEditingDigit(static_cast<std::size_t>(row - selectedRows.begin()), utf8(digit));
-    // What was refused goes from the field, too.
+    const auto kept = text(endEditingDigit(model, layoutID, utf8(digit)));
     const auto content = model.content();
     for (std::size_t index = 0; index < content.selected.size() && index < digitFields.size(); ++index) {
         if (content.selected[index].cell.layoutID == layoutID) {
-            digitFields[index]->setText(text(content.selected[index].digit));
+            digitFields[index]->setText(kept);
         }
     }
 }

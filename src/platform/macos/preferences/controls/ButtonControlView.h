@@ -12,7 +12,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return button.view(); }
-    NSView* keyView() const override { return button.view(); }
+    std::vector<NSControl*> keyViews() const override { return {button.view()}; }
 
 private:
     PaneButtonView button;

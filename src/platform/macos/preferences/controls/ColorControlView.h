@@ -14,7 +14,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return well.get(); }
-    NSView* keyView() const override { return well.get(); }
+    std::vector<NSControl*> keyViews() const override { return {well.get()}; }
 
 private:
     Retained<QuorvelColorWell*> well;

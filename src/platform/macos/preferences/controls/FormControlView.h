@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #import <AppKit/AppKit.h>
 
@@ -23,8 +24,8 @@ public:
 
     virtual NSView* view() const = 0;
 
-    // What of the view takes the keyboard; nil for nothing.
-    virtual NSView* keyView() const = 0;
+    // What of the view takes the keyboard, in order.
+    virtual std::vector<NSControl*> keyViews() const = 0;
 
 protected:
     void send(const ControlValue& value) const { model.set(rowId, value); }

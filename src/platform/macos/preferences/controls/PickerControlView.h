@@ -16,7 +16,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return popUp.get(); }
-    NSView* keyView() const override { return popUp.get(); }
+    std::vector<NSControl*> keyViews() const override { return {popUp.get()}; }
 
 private:
     void setChoices(const std::vector<std::string>& choices);

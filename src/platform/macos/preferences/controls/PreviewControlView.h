@@ -13,7 +13,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return picture.get(); }
-    NSView* keyView() const override { return nil; }
+    std::vector<NSControl*> keyViews() const override { return {}; }
 
 private:
     Retained<QuorvelDrawListView*> picture;

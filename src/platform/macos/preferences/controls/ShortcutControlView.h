@@ -14,7 +14,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return line.view(); }
-    NSView* keyView() const override { return record.view(); }
+    std::vector<NSControl*> keyViews() const override { return {record.view(), clear.view()}; }
 
 private:
     KeyCap keyCap;

@@ -15,7 +15,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return line.view(); }
-    NSView* keyView() const override { return slider.get(); }
+    std::vector<NSControl*> keyViews() const override { return {slider.get()}; }
 
 private:
     Retained<NSSlider*> slider;

@@ -14,7 +14,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return line.view(); }
-    NSView* keyView() const override { return button.view(); }
+    std::vector<NSControl*> keyViews() const override { return {button.view()}; }
 
 private:
     Retained<NSImageView*> symbol;

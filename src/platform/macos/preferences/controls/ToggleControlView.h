@@ -13,7 +13,7 @@ public:
 
     void show(const FormRow& row) override;
     NSView* view() const override { return toggle.get(); }
-    NSView* keyView() const override { return toggle.get(); }
+    std::vector<NSControl*> keyViews() const override { return {toggle.get()}; }
 
 private:
     Retained<NSSwitch*> toggle;
