@@ -50,7 +50,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
       textLayouts(x11::desktopFontFamilies(*display.connection)),
       textMetrics(textLayouts),
       overlayWindows(*display.connection, loop, windows.precedence, windows.screens, *display.keyboard,
-                     *display.graphics, textLayouts),
+                     windows.typingPause, *display.graphics, textLayouts),
       systemColors(x11::X11SystemColors::plasmaSettingsFile()),
       permissions(*display.connection),
       desktopStyles(*display.connection),

@@ -11,7 +11,9 @@
 
 namespace quorvel {
 
-GlobalEventBlocker::GlobalEventBlocker(const Platform& platform) : platform(platform) {}
+GlobalEventBlocker::GlobalEventBlocker(const Platform& platform)
+    : platform(platform), keys(platform.mainQueue, [this](const CapturedKey& key) { handle(key); })
+{}
 
 GlobalEventBlocker::~GlobalEventBlocker() = default;
 
@@ -109,7 +111,7 @@ void GlobalEventBlocker::showKeyCapturePanel()
         keyCapturePanel =
             std::make_unique<KeyCapturePanel>(platform, contentRect, weakly.guard([this](const CapturedKey& key) {
                 if (blocks(key.keyCode)) {
-                    deliver(key);
+                    keys.deliver(key);
                 }
             }));
     }
@@ -171,7 +173,7 @@ TapDecision GlobalEventBlocker::decide(const TapEvent& event)
     auto key = event.keyEvent().transform(capturedKeyFrom).value_or(CapturedKey{});
     key.keyCode = keyCode;
     // Later, so that the handler's work never delays the decision: the system turns slow taps off.
-    platform.mainQueue.async(weakly.guard([this, key = std::move(key)] { deliver(key); }));
+    keys.deliverLater(std::move(key));
     return TapDecision::drop;
 }
 
@@ -181,7 +183,7 @@ bool GlobalEventBlocker::blocks(KeyCode keyCode) const
     return isFast ? fastKeyCodes[static_cast<std::size_t>(keyCode)] : keyCodes.contains(keyCode);
 }
 
-void GlobalEventBlocker::deliver(const CapturedKey& key)
+void GlobalEventBlocker::handle(const CapturedKey& key) const
 {
     // A copy: the handler may well set another one.
     if (const auto handler = onBlockKey) {

@@ -10,6 +10,7 @@
 #include "platform/EventTaps.h"
 #include "platform/ProcessId.h"
 #include "system/CapturedKey.h"
+#include "system/KeyQueue.h"
 
 namespace quorvel {
 
@@ -43,7 +44,8 @@ public:
     // Adds every key there is, and shows the panel where there is no tap.
     void blockAllKeys();
 
-    // The tap's keys reach the handler in a later turn of the main queue, the panel's at once. Setting a handler, not
+    // The tap's keys reach the handler in a later turn of the main queue, the panel's at once; of several, each after
+    // what the one before it has set going. Setting a handler, not
     // taking it away with an empty one, shows the panel if there are keys to block and no tap.
     void setOnBlockKey(CapturedKeyHandler handler);
 
@@ -63,7 +65,7 @@ public:
 private:
     TapDecision decide(const TapEvent& event);
     bool blocks(KeyCode keyCode) const;
-    void deliver(const CapturedKey& key);
+    void handle(const CapturedKey& key) const;
     void announceBlockedKeys();
     void takeFocus();
     void hideKeyCapturePanel();
@@ -77,6 +79,7 @@ private:
     std::unique_ptr<KeyCapturePanel> keyCapturePanel;
     std::optional<ProcessId> previousApp;
     CapturedKeyHandler onBlockKey;
+    KeyQueue keys;
     WeakGuard weakly;
 };
 

@@ -145,5 +145,49 @@ TEST_F(OverlayPanelTest, KeepsTheFocusUnderAWindowManager)
     EXPECT_EQ(focus(), shownWindows().at(0));
 }
 
+class OverlayPanelUnder : public OverlayPanelTest, public testing::WithParamInterface<xtest::WindowManager> {
+protected:
+    static std::vector<std::uint8_t> presses(xtest::TestWindow& window)
+    {
+        std::vector<std::uint8_t> codes;
+        for (const auto& key : window.keys()) {
+            if (key.pressed) {
+                codes.push_back(key.code);
+            }
+        }
+        return codes;
+    }
+};
+
+// Typed as fast as can be, and with the pointer over another window.
+TEST_P(OverlayPanelUnder, WhatIsTypedAfterItIsOrderedOutReachesTheActivatedWindow)
+{
+    if (!xtest::WindowManagerProcess::isInstalled(GetParam())) {
+        GTEST_SKIP() << nameOf(GetParam()) << " is not installed";
+    }
+    display.startWindowManager(GetParam());
+    xtest::TestWindow chosen(display.server, {.rect = {100, 100, 300, 200}});
+    chosen.map();
+    xtest::TestWindow other(display.server, {.rect = {900, 500, 300, 200}});
+    other.map();
+    display.keyboard.movePointer(1000, 600);
+    display.client.activate(other.id());
+    show();
+
+    panel->orderOut();
+    windowManager.activate(chosen.id());
+    connection->sync();
+    const std::vector<std::uint8_t> typed(8, display.keyboard.codeOf(XKB_KEY_b));
+    for (const auto code : typed) {
+        display.keyboard.tapCode({}, code);
+    }
+    waitFor("the keys", [&] { return presses(chosen) == typed; });
+    EXPECT_TRUE(presses(other).empty());
+    EXPECT_TRUE(heard.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, OverlayPanelUnder, testing::ValuesIn(xtest::allWindowManagers()),
+                         [](const auto& parameter) { return nameOf(parameter.param); });
+
 } // namespace
 } // namespace quorvel::x11

@@ -18,6 +18,8 @@
 #include "platform/x11/overlays/OverlayGraphics.h"
 #include "platform/x11/overlays/X11OverlayWindows.h"
 #include "platform/x11/screens/X11Screens.h"
+#include "platform/x11/windows/TypingPause.h"
+#include "platform/x11/windows/WindowManagerBarrier.h"
 #include "support/Compositor.h"
 #include "support/Patience.h"
 #include "support/Screenshot.h"
@@ -134,7 +136,10 @@ protected:
     std::unique_ptr<Keyboard> keyboard = Keyboard::open(*connection, loop).value();
     std::unique_ptr<OverlayGraphics> graphics = OverlayGraphics::create(*connection).value();
     TextLayouts layouts{"DejaVu Sans"};
-    X11OverlayWindows windows{*connection, loop, precedence, screens, *keyboard, *graphics, layouts};
+    WindowManager windowManager{*connection, loop, rootProperties};
+    WindowManagerBarrier barrier{*connection, windowManager};
+    TypingPause typingPause{*connection, loop, barrier};
+    X11OverlayWindows windows{*connection, loop, precedence, screens, *keyboard, typingPause, *graphics, layouts};
 };
 
 } // namespace quorvel::x11

@@ -5,14 +5,16 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/keys/Keyboard.h"
 #include "platform/x11/overlays/OverlayStage.h"
+#include "platform/x11/windows/TypingPause.h"
 
 namespace quorvel::x11 {
 
-X11OverlayPanel::X11OverlayPanel(OverlayStage& stage, const Keyboard& keyboard, const WindowDescription& description,
-                                 std::function<void(const KeyEvent&)> onKeyDown)
+X11OverlayPanel::X11OverlayPanel(OverlayStage& stage, const Keyboard& keyboard, TypingPause& typingPause,
+                                 const WindowDescription& description, std::function<void(const KeyEvent&)> onKeyDown)
     : SurfaceWindow(stage, description),
       connection(stage.connection),
       keyboard(keyboard),
+      typingPause(typingPause),
       onKeyDown(std::move(onKeyDown))
 {
     surface.keepWindow();
@@ -30,18 +32,39 @@ void X11OverlayPanel::makeKey()
     if (!isVisible()) {
         return;
     }
-    // Whoever asks again has activated an application meanwhile. The window manager carries that out later, perhaps as
-    // raising and as activating, and each takes the focus away once.
+    // What the window manager was asked before takes the focus away yet, perhaps more than once. Who asks again has
+    // even activated an application meanwhile.
     constexpr int focusChangesOfAnActivation = 3;
-    expectedLosses = hasFocus ? focusChangesOfAnActivation : 0;
+    expectedLosses = focusChangesOfAnActivation;
+    if (!keptFocus.isActive()) {
+        typingPause.afterEarlierRequests(weakGuard.guard([this] { expectedLosses = 0; }));
+    }
     surface.prepare(); // the server gives the focus only to windows that are shown
     surface.show();
     takeFocus();
+    keptFocus = typingPause.keepFocus([this] {
+        if (isVisible()) {
+            takeFocus();
+        }
+    });
+}
+
+// The focus falls to whatever window is under the pointer until somebody gives it to the right one.
+void X11OverlayPanel::orderOut()
+{
+    if (isKey()) {
+        typingPause.begin();
+    }
+    keptFocus.reset();
+    SurfaceWindow::orderOut();
 }
 
 void X11OverlayPanel::takeFocus()
 {
     xcb_set_input_focus(connection.xcb(), XCB_INPUT_FOCUS_POINTER_ROOT, surface.window(), XCB_CURRENT_TIME);
+    // Some window managers give the focus away as of the time of the latest event, which must not be before this.
+    xcb_change_property(connection.xcb(), XCB_PROP_MODE_APPEND, connection.root(), XCB_ATOM_CUT_BUFFER0,
+                        XCB_ATOM_STRING, 8, 0, nullptr);
     hasFocus = true;
 }
 
@@ -66,12 +89,24 @@ void X11OverlayPanel::handleFocusChange(const xcb_focus_in_event_t& event, bool 
 {
     // A grab takes keys away for a moment, not the focus.
     const bool isByGrab = event.mode == XCB_NOTIFY_MODE_GRAB || event.mode == XCB_NOTIFY_MODE_UNGRAB;
-    if (event.event == surface.window() && !isByGrab) {
-        hasFocus = isFocused;
-        if (!isFocused && isVisible() && expectedLosses > 0) {
-            --expectedLosses;
-            takeFocus();
-        }
+    if (event.event != surface.window() || isByGrab) {
+        return;
+    }
+    if (isFocused) {
+        hasFocus = true;
+    } else if (!typingPause.isOn()) { // at whose end the focus comes back
+        handleLoss();
+    }
+}
+
+void X11OverlayPanel::handleLoss()
+{
+    hasFocus = false;
+    if (isVisible() && expectedLosses > 0) {
+        --expectedLosses;
+        takeFocus();
+    } else {
+        keptFocus.reset();
     }
 }
 

@@ -15,7 +15,7 @@ std::unique_ptr<OverlayWindow> X11OverlayWindows::createWindow(const WindowDescr
 std::unique_ptr<OverlayPanel> X11OverlayWindows::createPanel(const WindowDescription& description,
                                                              std::function<void(const KeyEvent&)> onKeyDown)
 {
-    return std::make_unique<X11OverlayPanel>(stage, keyboard, description, std::move(onKeyDown));
+    return std::make_unique<X11OverlayPanel>(stage, keyboard, typingPause, description, std::move(onKeyDown));
 }
 
 } // namespace quorvel::x11

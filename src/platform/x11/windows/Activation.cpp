@@ -4,6 +4,7 @@
 
 #include "platform/x11/Connection.h"
 #include "platform/x11/windows/ClientWindows.h"
+#include "platform/x11/windows/TypingPause.h"
 #include "platform/x11/windows/WindowManager.h"
 
 namespace quorvel::x11 {
@@ -17,10 +18,12 @@ bool isForPeople(const WindowSnapshot& window)
 
 } // namespace
 
-Activation::Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager)
+Activation::Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager,
+                       TypingPause& typingPause)
     : connection(connection),
       windows(windows),
       windowManager(windowManager),
+      typingPause(typingPause),
       activeWindowChanges(
           connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
               if (event.window == this->connection.root() && event.atom == this->connection.atoms().netActiveWindow) {
@@ -36,6 +39,7 @@ void Activation::raise(xcb_window_t window)
     if (snapshot == nullptr) {
         return;
     }
+    typingPause.beginIfFocusIsKept();
     if (!windows.isOnCurrentDesktop(*snapshot)) {
         windowManager.showDesktop(snapshot->desktop);
     }

@@ -9,12 +9,13 @@ namespace quorvel::x11 {
 
 class ClientWindows;
 class Connection;
+class TypingPause;
 class WindowManager;
 
 // Brings windows and applications forward.
 class Activation {
 public:
-    Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager);
+    Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager, TypingPause& typingPause);
 
     // Raises the window and gives it the keyboard, on whatever desktop it is.
     void raise(xcb_window_t window);
@@ -29,6 +30,7 @@ private:
     Connection& connection;
     ClientWindows& windows;
     WindowManager& windowManager;
+    TypingPause& typingPause;
     xcb_window_t lastRaised = XCB_NONE; // until another window becomes active
     Subscription activeWindowChanges;
 };

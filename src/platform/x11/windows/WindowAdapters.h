@@ -7,6 +7,7 @@
 #include "platform/x11/windows/ClientWindows.h"
 #include "platform/x11/windows/DesktopEntries.h"
 #include "platform/x11/windows/Placements.h"
+#include "platform/x11/windows/TypingPause.h"
 #include "platform/x11/windows/WindowManager.h"
 #include "platform/x11/windows/WindowManagerBarrier.h"
 #include "platform/x11/windows/WindowWatcher.h"
@@ -24,6 +25,7 @@ struct WindowAdapters {
     RootProperties rootProperties;
     WindowManager windowManager;
     WindowManagerBarrier barrier;
+    TypingPause typingPause;
     ClientWindows windows;
     Activation activation;
     Placements placements;
