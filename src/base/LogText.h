@@ -1,10 +1,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "base/Geometry.h"
 
 namespace quorvel {
+
+// The text with a blank for each control character: line ends, and what terminals take for commands. Titles of other
+// programs' windows may hold any.
+std::string plainLine(std::string_view text);
 
 // The text form of values in log lines: doubles in shortest round-trip form with at least one decimal, points and sizes
 // as "(a, b)", rectangles as "(x, y, width, height)".

@@ -3,12 +3,13 @@
 #include <cstdio>
 #include <string>
 
+#include "base/LogText.h"
+
 namespace quorvel {
 
 void StandardOutputLog::line(std::string_view text)
 {
-    std::string whole(text);
-    whole += '\n';
+    const auto whole = plainLine(text) + '\n';
     std::fwrite(whole.data(), 1, whole.size(), stdout);
     std::fflush(stdout);
 }

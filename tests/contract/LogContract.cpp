@@ -23,6 +23,13 @@ TEST_F(LogContract, EachLineArrivesWholeAndAtOnce)
                                                 "código de error → -25211\n"}));
 }
 
+// The lines hold titles, and a title holds what its program likes.
+TEST_F(LogContract, NothingWithinALineEndsIt)
+{
+    const auto pieces = desktop->logged([this] { log.line("A\nB\r\x1B[2J\tC\x7F"); });
+    EXPECT_EQ(pieces, std::vector<std::string>{"A B  [2J C \n"});
+}
+
 TEST_F(LogContract, AnEmptyLineIsALine)
 {
     EXPECT_EQ(desktop->logged([this] { log.line(""); }), std::vector<std::string>{"\n"});

@@ -22,6 +22,7 @@ debianPackages() {
         echo openbox metacity xfwm4 icewm fluxbox i3-wm kwin-x11 breeze
         echo picom xterm mousepad trayer adwaita-icon-theme
         ;;
+    fuzz) echo clang-19 libclang-rt-19-dev ;;
     macos)
         echo clang-19 libclang-rt-19-dev libgnustep-gui-dev gnustep-back0.29-cairo libblocksruntime-dev
         echo fonts-dejavu-core

@@ -1,5 +1,6 @@
 #include "platform/simulated/SimulatedLog.h"
 
+#include "base/LogText.h"
 #include "platform/simulated/Journal.h"
 
 namespace quorvel {
@@ -7,7 +8,7 @@ namespace quorvel {
 void SimulatedLog::line(std::string_view text)
 {
     journal.record("Log.line({})", text);
-    written.emplace_back(text);
+    written.push_back(plainLine(text));
 }
 
 } // namespace quorvel

@@ -26,5 +26,15 @@ TEST(LogText, ANullRectangleShowsItsInfiniteOrigin)
     EXPECT_EQ(logText(ScreenRect::null()), "(inf, inf, 0.0, 0.0)");
 }
 
+TEST(LogText, APlainLineHoldsNoControlCharacters)
+{
+    EXPECT_EQ(plainLine("A\nB\tC\x7F"), "A B C ");
+    EXPECT_EQ(plainLine("\xC2\x9B"
+                        "31m \xC2\x9F \xC2\xA0"),
+              " 31m   \xC2\xA0");
+    EXPECT_EQ(plainLine("código → 😀 \xC2"), "código → 😀 \xC2");
+    EXPECT_EQ(plainLine(""), "");
+}
+
 } // namespace
 } // namespace quorvel

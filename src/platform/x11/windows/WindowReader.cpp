@@ -10,32 +10,13 @@
 #include "platform/x11/Contains.h"
 #include "platform/x11/Properties.h"
 #include "platform/x11/windows/WindowAncestry.h"
+#include "platform/x11/windows/WindowProperties.h"
 
 namespace quorvel::x11 {
 
 namespace {
 
-// WM_NORMAL_HINTS: flags first; the increments are its tenth and eleventh values.
-constexpr std::size_t widthIncrementIndex = 9;
-constexpr std::size_t heightIncrementIndex = 10;
-constexpr std::uint32_t resizeIncrementFlag = 1U << 6;
 constexpr std::uint32_t withdrawnState = 0;
-
-// Of a property with left, right, top and bottom.
-std::optional<Extents> extentsOf(const std::vector<std::uint32_t>& values)
-{
-    if (values.size() < 4) {
-        return std::nullopt;
-    }
-    const auto value = [&](std::size_t index) { return static_cast<std::int32_t>(values[index]); };
-    return Extents{value(0), value(1), value(2), value(3)};
-}
-
-bool hasIncrements(const std::vector<std::uint32_t>& hints)
-{
-    return hints.size() > heightIncrementIndex && (hints[0] & resizeIncrementFlag) != 0 &&
-           (hints[widthIncrementIndex] > 1 || hints[heightIncrementIndex] > 1);
-}
 
 // Where a window lies in the root, without its border.
 struct Place {
@@ -167,7 +148,7 @@ std::vector<std::optional<WindowSnapshot>> WindowReader::read(std::span<const xc
         } else {
             undescribed.push_back(i);
         }
-        snapshot.shadow = extentsOf(cardinals(source.shadow.take().get())).value_or(Extents{});
+        snapshot.shadow = shadowOf(cardinals(source.shadow.take().get()), snapshot.client.size());
         const auto states = cardinals(source.netState.take().get());
         snapshot.isHidden = contains(states, atoms.netWmStateHidden);
         snapshot.isFullscreen = contains(states, atoms.netWmStateFullscreen);
@@ -176,7 +157,7 @@ std::vector<std::optional<WindowSnapshot>> WindowReader::read(std::span<const xc
         snapshot.isManaged = cardinal(source.wmState.take().get()) != withdrawnState;
         const auto desktop = cardinals(source.desktop.take().get());
         snapshot.desktop = desktop.empty() ? allDesktops : desktop.front();
-        snapshot.hasSizeIncrements = hasIncrements(cardinals(source.hints.take().get()));
+        snapshot.hasSizeIncrements = hasSizeIncrements(cardinals(source.hints.take().get()));
         const auto netName = text(source.netName.take().get());
         snapshot.title = netName.empty() ? text(source.name.take().get()) : netName;
     }
@@ -236,13 +217,9 @@ void WindowReader::readIdentities(std::span<const xcb_window_t> windows)
     for (auto& source : pending) {
         auto& identity = identities[source.window].identity;
         identity.kind = kindOf(cardinals(source.type.take().get()));
-        const auto wmClass = text(source.wmClass.take().get());
-        // Two texts, each with a zero at its end.
-        const auto end = std::min(wmClass.find('\0'), wmClass.size());
-        identity.instance = wmClass.substr(0, end);
-        if (end + 1 < wmClass.size()) {
-            identity.className = wmClass.substr(end + 1, wmClass.find('\0', end + 1) - end - 1);
-        }
+        const auto names = classNamesOf(text(source.wmClass.take().get()));
+        identity.instance = names.instance;
+        identity.className = names.className;
         const auto named = static_cast<ProcessId>(cardinal(source.namedProcess.take().get()));
         const auto stranger = named > 0 ? named : clientNumber(source.window);
         identity.process = localProcess(source.clientIds.take().get()).value_or(stranger);
