@@ -145,6 +145,18 @@ TEST(BinaryPropertyList, DamageIsFound)
     EXPECT_NE(damage(binaryWith(std::string("\xD1\1\0", 3))), "sound");
 }
 
+TEST(BinaryPropertyList, AKeyThatIsThereTwiceIsRemovedWhole)
+{
+    BinaryPlist file;
+    const auto key = static_cast<char>(file.add("\x51k"));
+    const auto value = static_cast<char>(file.add("\x51v"));
+    auto list = PropertyList::parse(file.file(file.add(std::string("\xD2") + key + key + value + value)));
+    ASSERT_TRUE(list);
+    list->remove("k");
+    EXPECT_FALSE(list->contains("k"));
+    EXPECT_TRUE(list->entries().empty());
+}
+
 TEST(BinaryPropertyList, AnObjectThatContainsItselfIsDamage)
 {
     EXPECT_THAT(damage(binaryWith("\xA1\x01")), HasSubstr("nested too deeply"));

@@ -149,7 +149,9 @@ void PropertyList::set(std::string_view key, const PropertyValue& value)
 
 void PropertyList::remove(std::string_view key)
 {
-    plist_dict_remove_item(root.get(), std::string(key).c_str());
+    while (contains(key)) { // a binary list may have a key more than once
+        plist_dict_remove_item(root.get(), std::string(key).c_str());
+    }
 }
 
 std::vector<std::pair<std::string, std::optional<PropertyValue>>> PropertyList::entries() const
