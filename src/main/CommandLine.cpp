@@ -15,10 +15,8 @@ struct Option {
 };
 
 constexpr Option plainOptions[] = {
-    {"--replace", StartMode::replace},
-    {"--help", StartMode::showHelp},
-    {"-h", StartMode::showHelp},
-    {"--version", StartMode::showVersion},
+    {"--replace", StartMode::replace},     {"--help", StartMode::showHelp},   {"-h", StartMode::showHelp},
+    {"--version", StartMode::showVersion}, {"--doctor", StartMode::diagnose},
 };
 constexpr Option fileOptions[] = {
     {"--export-settings", StartMode::exportSettings},
@@ -34,6 +32,9 @@ std::expected<CommandLine, std::string> commandLine(std::span<const char* const>
     }
     const std::string_view name = arguments.front();
     const auto rest = arguments.subspan(1);
+    if (name == "--doctor" && rest.size() == 1 && std::string_view(rest.front()) == "--json") {
+        return CommandLine{StartMode::diagnoseAsJson, {}};
+    }
     if (const auto option = std::ranges::find(fileOptions, name, &Option::name); option != std::end(fileOptions)) {
         if (rest.size() != 1) {
             return std::unexpected(fmt::format("{} needs the name of one file.", name));
@@ -57,6 +58,7 @@ Places windows by keyboard. Runs until it is told to quit; its icon sits in the 
   --replace                take over from a Quorvel that is running on this display
   --export-settings FILE   write the settings to FILE as a property list
   --import-settings FILE   take the settings over that FILE holds, also while Quorvel is running
+  --doctor [--json]        tell what this desktop offers and what stands in Quorvel's way
   --help                   show this text
   --version                show the version
 

@@ -7,7 +7,16 @@
 
 namespace quorvel {
 
-enum class StartMode { run, replace, showHelp, showVersion, exportSettings, importSettings };
+enum class StartMode {
+    run,
+    replace,
+    showHelp,
+    showVersion,
+    exportSettings,
+    importSettings,
+    diagnose,
+    diagnoseAsJson,
+};
 
 // What the program is asked to do.
 struct CommandLine {

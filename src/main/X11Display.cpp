@@ -27,6 +27,36 @@ std::expected<std::unique_ptr<x11::Connection>, std::string> connect()
 
 std::expected<X11Display, std::string> X11Display::open(MainQueue& mainQueue, StartMode mode)
 {
+    auto display = connected();
+    if (!display) {
+        return display;
+    }
+    display->claim = mode == StartMode::replace ? x11::InstanceClaim::takeOver(*display->connection, mainQueue)
+                                                : x11::InstanceClaim::make(*display->connection);
+    if (!display->claim) {
+        return std::unexpected(mode == StartMode::replace ? "The Quorvel that is running on this display does not end."
+                                                          : "Quorvel is already running on this display.");
+    }
+    if (auto prepared = display->prepare(mainQueue); !prepared) {
+        return std::unexpected(std::move(prepared).error());
+    }
+    return display;
+}
+
+std::expected<X11Display, std::string> X11Display::openUnclaimed(MainQueue& mainQueue)
+{
+    auto display = connected();
+    if (!display) {
+        return display;
+    }
+    if (auto prepared = display->prepare(mainQueue); !prepared) {
+        return std::unexpected(std::move(prepared).error());
+    }
+    return display;
+}
+
+std::expected<X11Display, std::string> X11Display::connected()
+{
     auto connection = connect();
     if (!connection) {
         return std::unexpected(std::move(connection).error());
@@ -34,23 +64,22 @@ std::expected<X11Display, std::string> X11Display::open(MainQueue& mainQueue, St
     X11Display display;
     display.connection = std::move(*connection);
     display.source = std::make_unique<x11::ConnectionSource>(*display.connection);
-    display.claim = mode == StartMode::replace ? x11::InstanceClaim::takeOver(*display.connection, mainQueue)
-                                               : x11::InstanceClaim::make(*display.connection);
-    if (!display.claim) {
-        return std::unexpected(mode == StartMode::replace ? "The Quorvel that is running on this display does not end."
-                                                          : "Quorvel is already running on this display.");
-    }
-    auto keyboard = x11::Keyboard::open(*display.connection, mainQueue);
-    if (!keyboard) {
-        return std::unexpected(std::move(keyboard).error());
-    }
-    display.keyboard = std::move(*keyboard);
-    auto graphics = x11::OverlayGraphics::create(*display.connection);
-    if (!graphics) {
-        return std::unexpected(std::move(graphics).error());
-    }
-    display.graphics = std::move(*graphics);
     return display;
+}
+
+std::expected<void, std::string> X11Display::prepare(MainQueue& mainQueue)
+{
+    auto opened = x11::Keyboard::open(*connection, mainQueue);
+    if (!opened) {
+        return std::unexpected(std::move(opened).error());
+    }
+    keyboard = std::move(*opened);
+    auto created = x11::OverlayGraphics::create(*connection);
+    if (!created) {
+        return std::unexpected(std::move(created).error());
+    }
+    graphics = std::move(*created);
+    return {};
 }
 
 } // namespace quorvel

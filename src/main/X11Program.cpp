@@ -86,6 +86,7 @@ X11Program::X11Program(x11::GlibMainLoop& loop, X11Display opened)
           .loginItem = &loginItem,
           .focusesExactWindow = true,
       },
+      hotKeyNews(keys.hotKeys.observeHeld([this] { display.claim->announce(keys.hotKeys.held()); })),
       endingSignals(subscribeToEndingSignals()),
       app(platform),
       settingsWatcher(x11::SettingsFile(x11::SettingsFile::defaultPath()), [this] { settingsMayHaveChanged(); }),

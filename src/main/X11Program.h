@@ -76,6 +76,7 @@ private:
     x11::X11PreferencesUi preferencesUi;
 
     Platform platform;
+    Subscription hotKeyNews;                 // before the program takes any
     std::vector<Subscription> endingSignals; // first, so that a program that is still starting ends in good order, too
     QuorvelApp app;
     x11::SettingsWatcher settingsWatcher;

@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include "main/CommandLine.h"
+#include "main/DesktopDiagnosis.h"
 #include "main/SettingsTransfer.h"
 #include "main/Version.h"
 #include "main/X11Display.h"
@@ -47,6 +48,9 @@ int main(int argc, char** argv)
         return quorvel::exportSettings(commandLine->file) ? EXIT_SUCCESS : EXIT_FAILURE;
     case quorvel::StartMode::importSettings:
         return quorvel::importSettings(commandLine->file) ? EXIT_SUCCESS : EXIT_FAILURE;
+    case quorvel::StartMode::diagnose:
+    case quorvel::StartMode::diagnoseAsJson:
+        return quorvel::diagnoseDesktop(commandLine->mode) ? EXIT_SUCCESS : EXIT_FAILURE;
     case quorvel::StartMode::run:
     case quorvel::StartMode::replace:
         return run(commandLine->mode);

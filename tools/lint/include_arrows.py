@@ -8,7 +8,7 @@ import re
 import sys
 
 # Each layer sees itself and those before it.
-LAYERS = ["base", "platform", "settings", "system", "layouts", "preferences", "app"]
+LAYERS = ["base", "platform", "settings", "system", "layouts", "preferences", "app", "doctor"]
 
 # Libraries that run everywhere; any other header with a folder or a suffix belongs to a platform.
 PORTABLE_LIBRARIES = re.compile(r"(fmt|nlohmann)/|(utf8proc|expat)\.h$")

@@ -12,6 +12,7 @@
 #include "platform/simulated/SimulatedAlerts.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedDates.h"
+#include "platform/simulated/SimulatedDesktopProbe.h"
 #include "platform/simulated/SimulatedEventMonitors.h"
 #include "platform/simulated/SimulatedEventTaps.h"
 #include "platform/simulated/SimulatedHotKeys.h"
@@ -99,6 +100,7 @@ public:
     SimulatedPermissions permissions{journal};
     SimulatedAccessibility accessibility{journal, mainQueue, permissions, windowServer};
     SimulatedHotKeys hotKeys{journal, mainQueue};
+    SimulatedDesktopProbe desktopProbe{hotKeys};
     SimulatedEventTaps eventTaps{journal, mainQueue, permissions};
     SimulatedScreens screens{journal, windowServer};
     SimulatedOverlayWindows overlayWindows{journal, windowServer};

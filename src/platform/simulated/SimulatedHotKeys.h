@@ -56,6 +56,7 @@ public:
 
     // Another program holds the combination.
     void holdElsewhere(Combination combination) { heldElsewhere.insert(combination); }
+    bool isHeldElsewhere(Combination combination) const { return heldElsewhere.contains(combination); }
     void failInstallation(OsStatus status) { installationStatus = status; }
     void failRegistration(OsStatus status) { registrationStatus = status; }
     // Registrations report success and yield no reference.

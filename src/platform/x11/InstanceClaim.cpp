@@ -1,12 +1,16 @@
 #include "platform/x11/InstanceClaim.h"
 
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 
 #include <fmt/format.h>
 #include <glib.h>
 
 #include "platform/MainQueue.h"
 #include "platform/x11/Connection.h"
+#include "platform/x11/Properties.h"
+#include "platform/x11/Selections.h"
 
 namespace quorvel::x11 {
 
@@ -20,12 +24,9 @@ xcb_atom_t selectionOf(Connection& connection)
     return connection.atom(fmt::format("_QUORVEL_S{}", connection.screenNumber()));
 }
 
-xcb_window_t ownerOf(Connection& connection, xcb_atom_t selection)
+xcb_atom_t hotKeysProperty(Connection& connection)
 {
-    PendingReply<xcb_get_selection_owner_reply> pending(connection.xcb(),
-                                                        xcb_get_selection_owner(connection.xcb(), selection));
-    const auto reply = pending.take();
-    return reply ? reply->owner : xcb_window_t{XCB_NONE};
+    return connection.atom("_QUORVEL_HOT_KEYS");
 }
 
 // Turns the loop until the window is gone; false when patience is over.
@@ -56,7 +57,7 @@ std::unique_ptr<InstanceClaim> InstanceClaim::make(Connection& connection)
     // Looking and claiming have to be one step, since two programs may start at the same time.
     xcb_grab_server(connection.xcb());
     std::unique_ptr<InstanceClaim> claim;
-    if (ownerOf(connection, selection) == XCB_NONE) {
+    if (selectionOwner(connection, selection) == XCB_NONE) {
         claim.reset(new InstanceClaim(connection, selection));
     }
     xcb_ungrab_server(connection.xcb());
@@ -67,7 +68,7 @@ std::unique_ptr<InstanceClaim> InstanceClaim::make(Connection& connection)
 std::unique_ptr<InstanceClaim> InstanceClaim::takeOver(Connection& connection, MainQueue& mainQueue)
 {
     const xcb_atom_t selection = selectionOf(connection);
-    const xcb_window_t owner = ownerOf(connection, selection);
+    const xcb_window_t owner = selectionOwner(connection, selection);
     std::unique_ptr<InstanceClaim> claim(new InstanceClaim(connection, selection));
     const bool isFree = owner == XCB_NONE || waitForEnd(connection, mainQueue, owner);
     return isFree ? std::move(claim) : nullptr;
@@ -92,6 +93,30 @@ InstanceClaim::~InstanceClaim()
 {
     xcb_destroy_window(connection.xcb(), window);
     connection.flush();
+}
+
+void InstanceClaim::announce(std::span<const HeldHotKey> hotKeys)
+{
+    std::vector<std::uint32_t> items;
+    for (const auto& [keyCode, modifiers] : hotKeys) {
+        items.insert(items.end(), {keyCode, modifiers});
+    }
+    xcb_change_property(connection.xcb(), XCB_PROP_MODE_REPLACE, window, hotKeysProperty(connection), XCB_ATOM_CARDINAL,
+                        32, static_cast<std::uint32_t>(items.size()), items.data());
+}
+
+std::optional<std::vector<HeldHotKey>> InstanceClaim::announcedHotKeys(Connection& connection)
+{
+    const xcb_window_t owner = selectionOwner(connection, selectionOf(connection));
+    if (owner == XCB_NONE) {
+        return std::nullopt;
+    }
+    const auto items = cardinals(requestProperty(connection.xcb(), owner, hotKeysProperty(connection)).take().get());
+    std::vector<HeldHotKey> hotKeys;
+    for (std::size_t index = 0; index + 1 < items.size(); index += 2) {
+        hotKeys.push_back({items[index], items[index + 1]});
+    }
+    return hotKeys;
 }
 
 } // namespace quorvel::x11

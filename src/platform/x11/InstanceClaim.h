@@ -2,10 +2,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <span>
+#include <vector>
 
 #include <xcb/xcb.h>
 
 #include "base/Subscription.h"
+#include "platform/x11/keys/HeldHotKey.h"
 
 namespace quorvel {
 class MainQueue;
@@ -31,6 +35,12 @@ public:
 
     // Runs, from the main loop, when another program takes the claim over and waits for this one to end.
     void setLostHandler(std::function<void()> handler) { onLost = std::move(handler); }
+
+    // Tells whoever asks on this display which hot keys this program holds.
+    void announce(std::span<const HeldHotKey> hotKeys);
+
+    // What the program that has claimed the display announced; nothing where none has.
+    static std::optional<std::vector<HeldHotKey>> announcedHotKeys(Connection& connection);
 
 private:
     InstanceClaim(Connection& connection, xcb_atom_t selection);

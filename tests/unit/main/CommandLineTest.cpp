@@ -41,7 +41,7 @@ std::set<std::string> allOf(const std::string& text, const char* pattern)
 
 std::set<std::string> optionsOfHelp()
 {
-    return allOf(std::string(helpText()), "(--[a-z-]+)");
+    return allOf(std::string(helpText()), "\n  (--[a-z-]+)");
 }
 
 std::set<std::string> optionsOfManual()
@@ -49,7 +49,7 @@ std::set<std::string> optionsOfManual()
     const auto manual = std::regex_replace(contentOf(folder / "quorvel.1"), std::regex(R"(\\-)"), "-");
     const auto begin = manual.find("\n.SH OPTIONS\n");
     const auto end = manual.find("\n.SH ", begin + 1);
-    return allOf(manual.substr(begin, end - begin), "\n\\.BR?I? (?:-[a-z] \", \" )?(--[a-z-]+)");
+    return allOf(manual.substr(begin, end - begin), "\n\\.TP\n\\.BR?I? (?:-[a-z] \", \" )?(--[a-z-]+)");
 }
 
 auto parsed(const std::vector<const char*>& arguments)
@@ -78,7 +78,7 @@ TEST(CommandLine, ShellsCompleteTheOptionsOfHelpAndNoOthers)
     ASSERT_THAT(bash, testing::SizeIs(1));
     EXPECT_THAT(allOf(*bash.begin(), "(--[a-z-]+)"), ContainerEq(optionsOfHelp()));
 
-    EXPECT_THAT(allOf(contentOf(folder / "completions/_quorvel"), "(--[a-z-]+)"), ContainerEq(optionsOfHelp()));
+    EXPECT_THAT(allOf(contentOf(folder / "completions/_quorvel"), "[^(](--[a-z-]+)"), ContainerEq(optionsOfHelp()));
 
     std::set<std::string> fish;
     for (const auto& name : allOf(contentOf(folder / "completions/quorvel.fish"), " -l ([a-z-]+)")) {
@@ -90,14 +90,31 @@ TEST(CommandLine, ShellsCompleteTheOptionsOfHelpAndNoOthers)
 TEST(CommandLine, ShellsCompleteFilesAfterTheOptionsThatTakeOne)
 {
     const auto bash = contentOf(folder / "completions/quorvel.bash");
+    const auto end = bash.find("\n        compopt -o filenames");
+    const auto condition = bash.rfind('\n', end - 1);
+    const auto filesFollowInBash = allOf(bash.substr(condition, end - condition), "== (--[a-z-]+)");
     const auto zsh = contentOf(folder / "completions/_quorvel");
     const auto fish = contentOf(folder / "completions/quorvel.fish");
     for (const auto& option : optionsOfHelp()) {
         const bool takesFile = parsed({option.c_str(), "file"}).has_value();
-        EXPECT_THAT(bash.find("== " + option) != std::string::npos, Eq(takesFile)) << option;
+        EXPECT_THAT(filesFollowInBash.contains(option), Eq(takesFile)) << option;
         EXPECT_THAT(std::regex_search(zsh, std::regex(option + "\\[[^\\]]*\\]:file:_files")), Eq(takesFile)) << option;
         EXPECT_THAT(fish.find("-l " + option.substr(2) + " -r -F") != std::string::npos, Eq(takesFile)) << option;
     }
+}
+
+TEST(CommandLine, TheFormatOfADiagnosisIsCompletedAndExplainedWhereItMayStand)
+{
+    EXPECT_THAT(parsed({"--doctor"}), Eq(CommandLine{StartMode::diagnose, {}}));
+    EXPECT_THAT(parsed({"--doctor", "--json"}), Eq(CommandLine{StartMode::diagnoseAsJson, {}}));
+    EXPECT_FALSE(parsed({"--json"}).has_value());
+    EXPECT_FALSE(parsed({"--doctor", "--xml"}).has_value());
+    EXPECT_FALSE(parsed({"--replace", "--json"}).has_value());
+    for (const auto* file : {"completions/quorvel.bash", "completions/_quorvel", "completions/quorvel.fish"}) {
+        EXPECT_THAT(contentOf(folder / file), HasSubstr("--json")) << file;
+    }
+    EXPECT_THAT(contentOf(folder / "quorvel.1"), HasSubstr(R"(\-\-doctor " [" \-\-json ])"));
+    EXPECT_THAT(std::string(helpText()), HasSubstr("--doctor [--json]"));
 }
 
 TEST(CommandLine, NothingAtAllMeansToRun)

@@ -9,6 +9,7 @@
 
 #include "platform/x11/Connection.h"
 #include "platform/x11/Properties.h"
+#include "platform/x11/Selections.h"
 #include "platform/x11/desktop/XSettings.h"
 
 namespace quorvel::x11 {
@@ -89,10 +90,7 @@ Subscription SettingsDaemon::observe(std::function<void()> changed)
 
 xcb_window_t SettingsDaemon::owner() const
 {
-    PendingReply<xcb_get_selection_owner_reply> pending(connection.xcb(),
-                                                        xcb_get_selection_owner(connection.xcb(), selection));
-    const auto reply = pending.take();
-    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+    return selectionOwner(connection, selection);
 }
 
 } // namespace quorvel::x11

@@ -9,6 +9,7 @@
 
 #include "platform/x11/Connection.h"
 #include "platform/x11/Properties.h"
+#include "platform/x11/Selections.h"
 #include "platform/x11/WindowNames.h"
 
 namespace quorvel::x11 {
@@ -102,11 +103,8 @@ void TrayIcon::addHandlers()
 
 void TrayIcon::findTray()
 {
-    PendingReply<xcb_get_selection_owner_reply> pending(connection.xcb(),
-                                                        xcb_get_selection_owner(connection.xcb(), selection));
-    const auto reply = pending.take();
-    if (reply && reply->owner != XCB_WINDOW_NONE) {
-        tray = reply->owner;
+    if (const auto owner = selectionOwner(connection, selection); owner != XCB_WINDOW_NONE) {
+        tray = owner;
         trayEvents = connection.selectEvents(tray, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
         dock();
     }

@@ -38,6 +38,9 @@ public:
     // The layout of this moment as a state without modifiers.
     KeyState layoutState() const { return KeyMapping::layoutState(layout); }
 
+    // The number of the layout of this moment, from 0.
+    unsigned layoutNumber() const { return layout; }
+
     // Runs the handler after every change of the map, until the token goes.
     Subscription observeMapping(std::function<void()> handler) { return mappingChanged.observe(std::move(handler)); }
 

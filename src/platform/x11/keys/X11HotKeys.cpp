@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/x11/keys/HotKeyCombinations.h"
 #include "platform/x11/keys/Keyboard.h"
 
 namespace quorvel::x11 {
@@ -60,7 +61,7 @@ HotKeyRegistration X11HotKeys::registerHotKey(std::uint32_t keyCode, std::uint32
         return {.status = osStatus::parameterError};
     }
     const auto key = static_cast<KeyCode>(keyCode);
-    const auto combinations = combinationsOf(key, modifiers);
+    const auto combinations = hotKeyCombinations(keyboard.mapping(), key, modifiers);
     if (combinations.empty()) {
         return {.status = osStatus::hotKeyInvalid}; // this keyboard has no such key
     }
@@ -74,6 +75,7 @@ HotKeyRegistration X11HotKeys::registerHotKey(std::uint32_t keyCode, std::uint32
     }
     const HotKeyRef ref = nextRef++;
     hotKeys.emplace(ref, HotKey{key, modifiers, id, combinations});
+    heldChanged.emit();
     return {.ref = ref};
 }
 
@@ -85,19 +87,20 @@ OsStatus X11HotKeys::unregisterHotKey(HotKeyRef ref)
     }
     grabs.giveBack(found->second.combinations);
     hotKeys.erase(found);
+    heldChanged.emit();
     return osStatus::success;
 }
 
-KeyGrabs::Combinations X11HotKeys::combinationsOf(KeyCode keyCode, std::uint32_t modifiers) const
+std::vector<HeldHotKey> X11HotKeys::held() const
 {
-    const KeyMapping& mapping = keyboard.mapping();
-    KeyGrabs::Combinations combinations;
-    for (const auto keycode : mapping.keycodes(keyCode)) {
-        for (const auto locks : mapping.lockCombinations()) {
-            combinations.insert({keycode, static_cast<KeyState>(mapping.state(modifiers) | locks)});
+    std::vector<HeldHotKey> result;
+    for (const auto& [ref, hotKey] : hotKeys) {
+        const auto wanted = hotKeyCombinations(keyboard.mapping(), hotKey.keyCode, hotKey.modifiers);
+        if (!wanted.empty() && hotKey.combinations == wanted) {
+            result.push_back({static_cast<std::uint32_t>(hotKey.keyCode), hotKey.modifiers});
         }
     }
-    return combinations;
+    return result;
 }
 
 KeyGrabs::Combinations X11HotKeys::takeWhatIsFree(const KeyGrabs::Combinations& combinations)
@@ -137,12 +140,13 @@ StrokeOutcome X11HotKeys::handlePress(const KeyStroke& stroke)
 void X11HotKeys::grabAnew()
 {
     for (auto& [ref, hotKey] : hotKeys) {
-        auto combinations = combinationsOf(hotKey.keyCode, hotKey.modifiers);
+        auto combinations = hotKeyCombinations(keyboard.mapping(), hotKey.keyCode, hotKey.modifiers);
         if (combinations != hotKey.combinations) {
             const auto former = std::exchange(hotKey.combinations, takeWhatIsFree(combinations));
             grabs.giveBack(former);
         }
     }
+    heldChanged.emit();
 }
 
 } // namespace quorvel::x11

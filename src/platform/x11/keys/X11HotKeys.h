@@ -1,9 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <map>
+#include <utility>
+#include <vector>
 
+#include "base/Signal.h"
 #include "base/Subscription.h"
 #include "platform/HotKeys.h"
+#include "platform/x11/keys/HeldHotKey.h"
 #include "platform/x11/keys/KeyEvents.h"
 #include "platform/x11/keys/KeyGrabs.h"
 
@@ -24,6 +29,12 @@ public:
     HotKeyRegistration registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers, HotKeyId id) override;
     OsStatus unregisterHotKey(HotKeyRef ref) override;
 
+    // Those that come to this program in every state of the locks.
+    std::vector<HeldHotKey> held() const;
+
+    // Runs the handler after each change of held(), until the token goes.
+    Subscription observeHeld(std::function<void()> changed) { return heldChanged.observe(std::move(changed)); }
+
 private:
     struct HotKey {
         KeyCode keyCode = 0;
@@ -32,7 +43,6 @@ private:
         KeyGrabs::Combinations combinations; // what is grabbed for it
     };
 
-    KeyGrabs::Combinations combinationsOf(KeyCode keyCode, std::uint32_t modifiers) const;
     KeyGrabs::Combinations takeWhatIsFree(const KeyGrabs::Combinations& combinations);
     const HotKey* find(KeyCode keyCode, std::uint32_t modifiers) const;
     StrokeOutcome handlePress(const KeyStroke& stroke);
@@ -44,6 +54,7 @@ private:
     HotKeyHandler handler;
     std::map<HotKeyRef, HotKey> hotKeys;
     HotKeyRef nextRef = 1;
+    Signal<> heldChanged;
     Subscription mappingSubscription;
 };
 

@@ -6,6 +6,7 @@
 #include <xcb/xfixes.h>
 
 #include "platform/x11/Connection.h"
+#include "platform/x11/Selections.h"
 
 namespace quorvel::x11 {
 
@@ -43,10 +44,7 @@ void CompositorWatch::watch()
 
 bool CompositorWatch::readOwner() const
 {
-    PendingReply<xcb_get_selection_owner_reply> pending(connection.xcb(),
-                                                        xcb_get_selection_owner(connection.xcb(), selection));
-    const auto reply = pending.take();
-    return reply != nullptr && reply->owner != XCB_WINDOW_NONE;
+    return selectionOwner(connection, selection) != XCB_WINDOW_NONE;
 }
 
 } // namespace quorvel::x11

@@ -57,6 +57,12 @@ GObjectHandle<PangoLayout> TextLayouts::layout(std::string_view text, const Font
     return layout;
 }
 
+bool TextLayouts::hasLetters() const
+{
+    constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    return pango_layout_get_unknown_glyphs_count(layout(letters, Font{}).get()) == 0;
+}
+
 double TextLayouts::width(PangoLayout* layout)
 {
     int width = 0;

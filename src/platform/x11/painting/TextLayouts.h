@@ -27,6 +27,9 @@ public:
     // Invalid UTF-8 is set with replacement characters.
     GObjectHandle<PangoLayout> layout(std::string_view text, const Font& font) const;
 
+    // Whether there is a font that has the letters of labels.
+    bool hasLetters() const;
+
     // The advance width, in pixels.
     static double width(PangoLayout* layout);
 

@@ -156,15 +156,20 @@ const ScreenLayout& X11Screens::currentLayout()
 
 ScreenLayout X11Screens::readLayout()
 {
-    const auto monitors = readMonitors();
-    const auto workAreas = readWorkAreas(monitors.size());
+    return screenLayout(monitors());
+}
+
+std::vector<MonitorWithWorkArea> X11Screens::monitors()
+{
+    const auto present = readMonitors();
+    const auto workAreas = readWorkAreas(present.size());
     const auto reserved = struts.read(rootSize);
     std::vector<MonitorWithWorkArea> result;
-    for (const auto& monitor : monitors) {
+    for (const auto& monitor : present) {
         const auto left = workArea(monitor.area, reserved, rootSize);
         result.push_back({monitor, limitedToWorkArea(left, monitor.area, workAreas)});
     }
-    return screenLayout(result);
+    return result;
 }
 
 std::vector<Monitor> X11Screens::readMonitors() const

@@ -32,6 +32,9 @@ public:
     // The way between root, accessibility and screen coordinates; holds until monitors change.
     const ScreenCoordinates& coordinates();
 
+    // What the screens are made of, as of now.
+    std::vector<MonitorWithWorkArea> monitors();
+
 private:
     enum class Presence { absent, there };
 
