@@ -10,6 +10,7 @@
 
 #include <fmt/format.h>
 
+#include "platform/KeyboardLayout.h"
 #include "platform/Platform.h"
 #include "preferences/ControlValues.h"
 #include "preferences/LayoutThumbnail.h"
@@ -127,7 +128,8 @@ LayoutsPaneContent LayoutsPreferencesViewController::content() const
         .add = arrowButton(addID, "arrow.right", "Add to Selected", !layoutsToAdd().empty()),
         .remove = arrowButton(removeID, "arrow.left", "Remove from Selected", !selectedSelection.empty()),
         .digitToolTip = "Assign a digit (1–9). Press it while the layout overlay is visible to jump straight here.",
-        .orderingToolTip = "Drag rows, or press Alt+Up or Alt+Down, to change the order.",
+        .orderingToolTip = fmt::format("Drag rows, or press {0}+Up or {0}+Down, to change the order.",
+                                       platform.keyboardLayout.modifierNames().option),
         .tip = "Tip: type a digit (1–9) next to a layout to jump straight to it while the overlay is open.",
     };
     for (const auto& row : availableRows) {

@@ -61,7 +61,7 @@ TEST_F(LayoutsPreferencesViewControllerTest, TheTextsAreThere)
               "Tip: type a digit (1–9) next to a layout to jump straight to it while the overlay is open.");
     EXPECT_EQ(content.digitToolTip,
               "Assign a digit (1–9). Press it while the layout overlay is visible to jump straight here.");
-    EXPECT_EQ(content.orderingToolTip, "Drag rows, or press Alt+Up or Alt+Down, to change the order.");
+    EXPECT_EQ(content.orderingToolTip, "Drag rows, or press Option+Up or Option+Down, to change the order.");
 }
 
 TEST_F(LayoutsPreferencesViewControllerTest, EachDigitFieldIsNamedAfterItsLayout)
