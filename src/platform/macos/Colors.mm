@@ -2,6 +2,20 @@
 
 namespace quorvel::macos {
 
+namespace {
+
+std::optional<Color> colorIn(NSColorSpace* space, NSColor* color)
+{
+    NSColor* const converted = [color colorUsingColorSpace:space];
+    if (converted == nil) {
+        return std::nullopt;
+    }
+    return Color{
+        [converted redComponent], [converted greenComponent], [converted blueComponent], [converted alphaComponent]};
+}
+
+} // namespace
+
 NSColor* nsColor(const Color& color)
 {
     return [NSColor colorWithSRGBRed:color.red green:color.green blue:color.blue alpha:color.alpha];
@@ -9,12 +23,12 @@ NSColor* nsColor(const Color& color)
 
 Color color(NSColor* color)
 {
-    NSColor* const converted = [color colorUsingColorSpace:[NSColorSpace sRGBColorSpace]];
-    if (converted == nil) {
-        return Color::clear();
-    }
-    return {
-        [converted redComponent], [converted greenComponent], [converted blueComponent], [converted alphaComponent]};
+    return colorIn([NSColorSpace sRGBColorSpace], color).value_or(Color::clear());
+}
+
+std::optional<Color> deviceColor(NSColor* color)
+{
+    return colorIn([NSColorSpace deviceRGBColorSpace], color);
 }
 
 } // namespace quorvel::macos

@@ -83,6 +83,15 @@ TEST_F(FormPaneTest, AColorWellSendsColorsWithAlpha)
     EXPECT_EQ(color([well color]), Color::white());
 }
 
+TEST_F(FormPaneTest, WhatTheDeviceHasNoColorForIsNotSent)
+{
+    open(formOf({rowOf("color", colorControl(Color::white()))}));
+    auto* const well = control<NSColorWell>("color");
+    [well setColor:nil];
+    person::use(well);
+    EXPECT_TRUE(model.values.empty());
+}
+
 TEST_F(FormPaneTest, ButtonsPressWhatTheyAreKnownBy)
 {
     auto form = formOf({rowOf("row", ButtonControl{buttonNamed("check", "Check")})});

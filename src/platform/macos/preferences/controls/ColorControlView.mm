@@ -11,8 +11,9 @@ namespace {
 
 constexpr NSRect wellFrame = {{0.0, 0.0}, {46.0, 26.0}};
 
-bool isSameInBytes(const Color& one, const Color& other)
+bool isSameInBytes(const Color& one, const std::optional<Color>& shown)
 {
+    const auto other = shown.value_or(Color::clear());
     const auto isSame = [](double a, double b) { return std::lround(a * 255.0) == std::lround(b * 255.0); };
     return isSame(one.red, other.red) && isSame(one.green, other.green) && isSame(one.blue, other.blue) &&
            isSame(one.alpha, other.alpha);
@@ -23,7 +24,11 @@ bool isSameInBytes(const Color& one, const Color& other)
 ColorControlView::ColorControlView(FormModel& model, const FormRow& row)
     : FormControlView(model, row),
       well(Retained<QuorvelColorWell*>::adopt([[QuorvelColorWell alloc] initWithFrame:wellFrame])),
-      action(well.get(), [this] { send(color([well.get() color])); })
+      action(well.get(), [this] {
+          if (const auto picked = deviceColor([well.get() color])) {
+              send(*picked);
+          }
+      })
 {
     [well.get() setContinuous:YES];
     [well.get() setColor:nsColor(std::get<ColorControl>(row.control).color)];
@@ -33,7 +38,7 @@ ColorControlView::ColorControlView(FormModel& model, const FormRow& row)
 void ColorControlView::show(const FormRow& row)
 {
     const auto& control = std::get<ColorControl>(row.control);
-    if (!isSameInBytes(control.color, color([well.get() color]))) {
+    if (!isSameInBytes(control.color, deviceColor([well.get() color]))) {
         [well.get() setColor:nsColor(control.color)];
     }
     [well.get() setToolTip:nsString(control.text)];
