@@ -21,7 +21,7 @@ from pathlib import Path
 
 TIDY = "clang-tidy-19"
 ROOT = Path(__file__).resolve().parents[2]
-SOURCES = {".cpp"}
+SOURCES = {".cpp", ".mm"}
 INCLUDE = re.compile(rb'^\s*#\s*(?:include|import)\s+"([^"]+)"', re.MULTILINE)
 INCLUDE_FOLDERS = [ROOT / "src", ROOT / "tests", ROOT]
 
