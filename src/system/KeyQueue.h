@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <deque>
+#include <optional>
 
 #include "base/WeakGuard.h"
 #include "system/CapturedKey.h"
@@ -22,13 +25,15 @@ public:
     void deliver(CapturedKey key);
 
 private:
-    void continueSoon();
+    void askForTurn(std::size_t earlier);
+    void takeTurn();
     void deliverNext();
 
     MainQueue& mainQueue;
     CapturedKeyHandler handler;
     std::deque<CapturedKey> waiting;
-    bool isTurnDue = false; // in which the next one goes on, or it turns out that there is none
+    std::uint64_t turns = 0;
+    std::optional<std::uint64_t> dueTurn; // in which the next one goes on, or it turns out that there is none
     WeakGuard weakly;
 };
 

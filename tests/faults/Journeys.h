@@ -18,6 +18,7 @@ struct Journey {
 };
 
 // For the names of tests.
+// NOLINTNEXTLINE(readability-identifier-naming): as the test framework wants it
 inline void PrintTo(const Journey& journey, std::ostream* out)
 {
     *out << journey.name;

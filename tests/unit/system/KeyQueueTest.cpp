@@ -54,5 +54,15 @@ TEST_F(KeyQueueTest, AKeyThatIsWaitingWhenAnotherIsToBeDeliveredAtOnceGoesFirst)
     EXPECT_EQ(done, (std::vector<std::string>{"a", "after a", "b", "after b"}));
 }
 
+TEST_F(KeyQueueTest, ATurnThatGetsLostTakesItsKeyAlongAndNoOther)
+{
+    queue.deliverLater(key("a"));
+    desktop.mainQueue.discard();
+    queue.deliverLater(key("b"));
+    queue.deliverLater(key("c"));
+    desktop.drain();
+    EXPECT_EQ(done, (std::vector<std::string>{"b", "after b", "c", "after c"}));
+}
+
 } // namespace
 } // namespace quorvel
