@@ -15,6 +15,7 @@
 #include "layouts/LayoutsManager.h"
 #include "layouts/OverlayWindowManager.h"
 #include "platform/Log.h"
+#include "platform/MainQueue.h"
 #include "platform/Platform.h"
 #include "settings/Settings.h"
 #include "system/GlobalEventBlocker.h"
@@ -177,11 +178,19 @@ void LayoutOverlayMode::choose(const std::string& character, const Showing& show
 {
     if (const auto found = showing.labelToFrame.find(upperCased(character)); found != showing.labelToFrame.end()) {
         environment.handleAction(Action::moveClientWindow, {found->second, showing.screens, showing.element});
-        if (!showing.element->axWindowElement()) {
-            environment.platform.log.line("Window is gone; nothing was placed");
-        }
+        reportGoneWindow(showing.element);
     }
     environment.handleAction(Action::cancel, {});
+}
+
+// After the writes: a window that closes just before the letter is known to be gone from their refusal only.
+void LayoutOverlayMode::reportGoneWindow(const std::shared_ptr<WindowElementModel>& element) const
+{
+    environment.platform.mainQueue.async([element, &log = environment.platform.log] {
+        if (element->isGone()) {
+            log.line("Window is gone; nothing was placed");
+        }
+    });
 }
 
 void LayoutOverlayMode::placeWindow(const WindowModel& frame, const ScreensModel& screens,

@@ -31,6 +31,7 @@ public:
     void leave() { current.reset(); }
 
     // Puts the window into a frame of a layout on the current screen.
+    void reportGoneWindow(const std::shared_ptr<WindowElementModel>& element) const;
     void placeWindow(const WindowModel& frame, const ScreensModel& screens, WindowElementModel& element) const;
 
 private:

@@ -103,6 +103,11 @@ const AxElementRef& WindowElementModel::axWindowElement() const
     return element;
 }
 
+bool WindowElementModel::isGone() const
+{
+    return !element || !elementExists;
+}
+
 const std::optional<AxPoint>& WindowElementModel::windowPosition() const
 {
     return position;
@@ -131,7 +136,9 @@ void WindowElementModel::setWindowPosition(const AxPoint& newPosition)
     if (!element) {
         return;
     }
-    if (const auto written = platform.accessibility.setAttribute(element, axNames::position, newPosition)) {
+    const auto written = platform.accessibility.setAttribute(element, axNames::position, newPosition);
+    elementExists = written || written.error() != axErrors::invalidElement;
+    if (written) {
         position = newPosition;
         platform.log.line("window position: " + logText(newPosition));
     } else {

@@ -46,6 +46,9 @@ public:
     // Null while there is no window.
     const AxElementRef& axWindowElement() const;
 
+    // There is no window, or the last position written to it was refused because it no longer exists.
+    bool isGone() const;
+
     const std::optional<AxPoint>& windowPosition() const;
     const std::optional<Size>& windowSize() const;
 
@@ -86,6 +89,7 @@ private:
     std::optional<AxPoint> position;
     std::optional<Size> size;
     AxElementRef element;
+    bool elementExists = true;
     std::unique_ptr<OverlayFrameWindowController> overlayController;
     std::unique_ptr<AxObserver> observer;
 };

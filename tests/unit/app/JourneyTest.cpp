@@ -95,6 +95,7 @@ TEST_F(JourneyTest, AWindowThatClosesWhileItIsMovedLeavesALineInTheLog)
     desktop.journal.duringNext("Accessibility.setAttribute", [this] { desktop.closeWindow(window); });
     type(keyCodes::a);
     EXPECT_EQ(linesBeginningWith("Failed to set window position").at(0), "Failed to set window position: -25202");
+    EXPECT_EQ(linesBeginningWith("Window is gone"), (std::vector<std::string>{"Window is gone; nothing was placed"}));
     EXPECT_TRUE(isOverlayGone());
 }
 
