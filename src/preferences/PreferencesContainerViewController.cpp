@@ -34,6 +34,7 @@ PreferencesContainerViewController::PreferencesContainerViewController(const Pla
 std::vector<PreferencesTab> PreferencesContainerViewController::tabs()
 {
     std::vector<PreferencesTab> result;
+    result.reserve(allTabs.size());
     for (const auto& tab : allTabs) {
         result.push_back({std::string(tab.title), std::string(tab.symbol), tab.pane});
     }

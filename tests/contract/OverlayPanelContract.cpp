@@ -31,6 +31,7 @@ protected:
     std::vector<KeyCode> codes() const
     {
         std::vector<KeyCode> result;
+        result.reserve(heard.size());
         for (const auto& each : heard) {
             result.push_back(each.keyCode);
         }

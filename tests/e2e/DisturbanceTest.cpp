@@ -19,10 +19,7 @@ TEST_F(Disturbance, AWindowThatClosesBeforeTheLetterIsForgotten)
     closing->vanish();
     display.client.waitFor("the window to close", [&] { return !display.client.exists(id); });
     display.keyboard.tap(XKB_KEY_a);
-    // A key that comes close behind may meet the window that the program has not missed yet.
-    quorvel->program().waitForLine("the letter to be in vain", [](std::string_view line) {
-        return line == "Window is gone; nothing was placed" || line == "Failed to set window position: -25202";
-    });
+    quorvel->program().waitForLine("Window is gone; nothing was placed");
     quorvel->waitUntilIdle();
 
     display.client.activate(remaining->id());

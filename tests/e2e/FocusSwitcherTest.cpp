@@ -250,9 +250,9 @@ TEST_F(FocusSwitcher, ThirtyWindowsSomeOfThemTroublesome)
     start();
     xtest::ClientProcess hung(display.server, display.client, xtest::ClientProcess::Kind::plain, "Hung");
     kill(hung.process(), SIGSTOP);
-    std::vector<std::unique_ptr<xtest::TestWindow>> windows;
+    std::vector<std::unique_ptr<xtest::TestWindow>> windows(26);
     for (int i = 0; i < 26; ++i) {
-        windows.push_back(openWindow({60 + 60 * (i % 13), 40 + 300 * (i / 13), 240, 180}));
+        windows[static_cast<std::size_t>(i)] = openWindow({60 + 60 * (i % 13), 40 + 300 * (i / 13), 240, 180});
     }
     const auto lowerTwin = openWindow({1300, 700, 300, 200});
     const auto upperTwin = openWindow({1300, 700, 300, 200});

@@ -159,7 +159,7 @@ bool FaultSession::isModeOn()
            controller.stateManager().currentState != StateManager::States::normal;
 }
 
-FormModel* FaultSession::form(std::size_t tab)
+FormModel* FaultSession::form(std::size_t tab) const
 {
     if (!desktop.preferencesUi.isWindowVisible()) {
         return nullptr;
@@ -169,7 +169,7 @@ FormModel* FaultSession::form(std::size_t tab)
     return std::get<FormModel*>(model.content().tabs.at(tab).pane);
 }
 
-LayoutsPaneModel* FaultSession::layoutsPane()
+LayoutsPaneModel* FaultSession::layoutsPane() const
 {
     if (!desktop.preferencesUi.isWindowVisible()) {
         return nullptr;

@@ -34,8 +34,8 @@ public:
     void leave();
 
     // The pane in a tab of the preferences; null while they are not open.
-    FormModel* form(std::size_t tab);
-    LayoutsPaneModel* layoutsPane();
+    FormModel* form(std::size_t tab) const;
+    LayoutsPaneModel* layoutsPane() const;
 
     // What the person sees.
     std::size_t shownWindows() const { return desktop.overlayWindows.visible().size(); }

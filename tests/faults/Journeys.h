@@ -18,10 +18,9 @@ struct Journey {
 };
 
 // For the names of tests.
-// NOLINTNEXTLINE(readability-identifier-naming): as the test framework wants it
-inline void PrintTo(const Journey& journey, std::ostream* out)
+inline std::ostream& operator<<(std::ostream& out, const Journey& journey)
 {
-    *out << journey.name;
+    return out << journey.name;
 }
 
 // Every journey of a person through the program.

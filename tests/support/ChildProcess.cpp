@@ -78,6 +78,7 @@ ChildProcess::ChildProcess(const Command& command) : name(command.words.front())
     const std::string path = program->string();
     auto words = command.words;
     std::vector<std::string> variables;
+    variables.reserve(command.environment.size());
     for (const auto& [variable, value] : command.environment) {
         variables.push_back(variable + "=" + value);
     }

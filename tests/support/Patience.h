@@ -15,7 +15,7 @@ public:
 // The end of a wait. Waits end by an event; only a failing test ever reaches this, so it is long.
 class Deadline {
 public:
-    static constexpr std::chrono::seconds patience{30};
+    static constexpr std::chrono::seconds patience{60};
 
     // Milliseconds left, for poll(); never negative.
     int remaining() const;

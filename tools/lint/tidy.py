@@ -1,11 +1,15 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over the units of a unity build that changed since they last passed.
+"""Runs clang-tidy over the sources that changed since they last passed.
 
 usage: tidy.py BUILD_FOLDER [FILE...]
 
-A unit has changed when one of its sources, a project header that they include, its compile command or the configuration
-has. What passed is remembered under BUILD_FOLDER/../tidied, so it survives a fresh configuration. With files only the
-units that hold them are looked at.
+A source has changed when its text, a project header that it includes, its compile command or the configuration has. What
+passed is remembered under BUILD_FOLDER/../tidied, so it survives a fresh configuration. With files only the sources that
+include one of them are looked at.
+
+clang-tidy walks all headers of the system again for each source, which takes far longer than the source itself. So a
+dozen sources are read as one; those that do not get on with the others, say by two private things of one name, go into
+another dozen.
 """
 
 import concurrent.futures
@@ -20,10 +24,13 @@ import sys
 from pathlib import Path
 
 TIDY = "clang-tidy-19"
+COMPILER = "clang++-19"
+DOZEN = 16
 ROOT = Path(__file__).resolve().parents[2]
-SOURCES = {".cpp", ".mm"}
 INCLUDE = re.compile(rb'^\s*#\s*(?:include|import)\s+"([^"]+)"', re.MULTILINE)
 INCLUDE_FOLDERS = [ROOT / "src", ROOT / "tests", ROOT]
+SOURCES = {".cpp", ".mm"}
+ERROR = re.compile(r"^(/[^:\n]+):\d+:\d+: (?:fatal )?error: ", re.MULTILINE)
 
 
 @functools.cache
@@ -40,10 +47,10 @@ def direct_includes(file):
     return hashlib.sha256(text).hexdigest(), headers
 
 
-def project_files(unit):
-    """The hash of each project file that the unit is made of."""
+def project_files(source):
+    """The hash of each project file that the source is made of."""
     seen = {}
-    waiting = [unit]
+    waiting = [source]
     while waiting:
         current = waiting.pop()
         if current not in seen:
@@ -53,15 +60,10 @@ def project_files(unit):
     return seen
 
 
-def content_key(files, command, configuration):
-    """A hash over everything that decides what clang-tidy says about the unit."""
-    parts = [configuration, command, *(f"{path} {digest}" for path, digest in sorted(files.items()))]
+def content_key(files, flags, configuration):
+    """A hash over everything that decides what clang-tidy says about the source."""
+    parts = [configuration, *flags, *(f"{path} {digest}" for path, digest in sorted(files.items()))]
     return hashlib.sha256("\n".join(parts).encode()).hexdigest()
-
-
-def is_unit(file, build_folder):
-    """A source of the project, or several of them; not what a tool made."""
-    return file.name.startswith("unity_") if build_folder in file.parents else ROOT in file.parents
 
 
 def configuration_of():
@@ -72,70 +74,125 @@ def configuration_of():
     return version + "".join((ROOT / file).read_text() for file in files)
 
 
-def run_tidy(arguments):
-    result = subprocess.run(
-        [TIDY, "--quiet", "--warnings-as-errors=*", *arguments], capture_output=True, text=True, cwd=ROOT
-    )
-    return result.returncode, result.stdout
-
-
 def flags_of(command):
-    """What a compile command says about the language and the search for headers."""
+    """What a compile command says about the language and the search for headers, an option with its value in one."""
     words = iter(shlex.split(command))
     flags = []
     for word in words:
-        if word in {"-o", "-c", "-MT", "-MF"}:
-            next(words)
-        elif word.startswith("-") and word != "-MD":
-            flags.append(word)
-        elif flags and flags[-1] == "-isystem":
+        if word == "-isystem":
+            flags.append(word + next(words))
+        elif word.startswith(("-I", "-D", "-std=", "-fobjc-", "-fblocks")):
             flags.append(word)
     return flags
 
 
-def check(build_folder, unit, sources, command):
-    """Whole, or source by source where they do not get on in one unit, say by two private things of one name."""
-    status, output = run_tidy(["-p", str(build_folder), str(unit)])
-    if "[clang-diagnostic-error" not in output or len(sources) == 1:
-        return status, output
-    results = [run_tidy([str(source), "--", *flags_of(command)]) for source in sources]
-    return max(status for status, _ in results), "".join(output for _, output in results)
+def united(lists):
+    return list(dict.fromkeys(flag for flags in lists for flag in flags))
+
+
+def dozens(sources):
+    """Neighbours together; product and tests, and languages, apart."""
+    areas = {}
+    for source in sorted(sources):
+        areas.setdefault((source.relative_to(ROOT).parts[0], source.suffix), []).append(source)
+    for area in areas.values():
+        count = -(-len(area) // DOZEN)
+        for first in range(count):
+            yield area[first * len(area) // count : (first + 1) * len(area) // count]
+
+
+def compatible_groups(sources, clashing):
+    """The sources in groups that can be read as one. `clashing` answers which sources of a group have errors in it."""
+    if len(sources) == 1:
+        return [sources]
+    bad = clashing(sources)
+    if not bad:
+        return [sources]
+    if bad == set(sources):
+        half = len(sources) // 2
+        return compatible_groups(sources[:half], clashing) + compatible_groups(sources[half:], clashing)
+    # The first of two that clash has no error, so those without one get on.
+    apart = [source for source in sources if source in bad]
+    rest = [source for source in sources if source not in bad]
+    return [rest, *compatible_groups(apart, clashing)]
+
+
+class Unit:
+    """Sources read as one file."""
+
+    def __init__(self, folder, sources, flags):
+        self.sources = sources
+        self.flags = united(flags[source] for source in sources)
+        name = hashlib.sha256("\n".join(map(str, sources)).encode()).hexdigest()[:16]
+        self.file = folder / (name + sources[0].suffix)
+        self.file.write_text("".join(f'#include "{source}"\n' for source in sources))
+
+    def clashing(self):
+        result = subprocess.run(
+            [COMPILER, "-fsyntax-only", "-w", "-ferror-limit=0", *self.flags, self.file],
+            capture_output=True,
+            text=True,
+            cwd=ROOT,
+        )
+        if result.returncode == 0:
+            return set()
+        return {Path(file) for file in ERROR.findall(result.stderr)} & set(self.sources) or set(self.sources)
+
+    def tidy(self):
+        result = subprocess.run(
+            [TIDY, "--quiet", "--warnings-as-errors=*", self.file, "--", *self.flags],
+            capture_output=True,
+            text=True,
+            cwd=ROOT,
+        )
+        return result.returncode, result.stdout
 
 
 def main(build_folder, only):
     build_folder = Path(build_folder).resolve()
     passed_folder = build_folder.parent / "tidied"
-    passed_folder.mkdir(exist_ok=True)
+    unit_folder = passed_folder / "units"
+    unit_folder.mkdir(parents=True, exist_ok=True)
     configuration = configuration_of()
-    waiting = []
+    flags = {}
+    marks = {}
     for entry in json.loads((build_folder / "compile_commands.json").read_text()):
-        unit = (Path(entry["directory"]) / entry["file"]).resolve()
-        if not is_unit(unit, build_folder):
+        source = (Path(entry["directory"]) / entry["file"]).resolve()
+        if ROOT not in source.parents or build_folder in source.parents or source.suffix not in SOURCES:
             continue
-        files = project_files(unit)
+        files = project_files(source)
         if only and not any(file in files for file in only):
             continue
-        mark = passed_folder / content_key(files, entry["command"], configuration)
+        own = flags_of(entry["command"])
+        mark = passed_folder / content_key(files, own, configuration)
         if not mark.exists():
-            sources = sorted(file for file in files if file.suffix in SOURCES)
-            waiting.append((unit, sources, entry["command"], mark))
+            flags[source] = own
+            marks[source] = mark
+
+    def check(dozen):
+        results = []
+        for group in compatible_groups(dozen, lambda sources: Unit(unit_folder, sources, flags).clashing()):
+            status, output = Unit(unit_folder, group, flags).tidy()
+            if "[clang-diagnostic-error" in output and len(group) > 1:
+                half = len(group) // 2
+                results += check(group[:half]) + check(group[half:])
+            else:
+                results.append((group, status, output))
+        return results
 
     failures = 0
+    units = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        checks = {
-            pool.submit(check, build_folder, unit, sources, command): (unit, mark)
-            for unit, sources, command, mark in waiting
-        }
-        for done in concurrent.futures.as_completed(checks):
-            unit, mark = checks[done]
-            status, output = done.result()
-            if status == 0:
-                mark.touch()
-            else:
-                failures += 1
-                print(f"{unit.relative_to(ROOT)}:\n{output}", flush=True)
-    count = sum(len(sources) for _, sources, _, _ in waiting)
-    print(f"clang-tidy: {count} changed files in {len(waiting)} units, {failures} units with findings")
+        for done in concurrent.futures.as_completed([pool.submit(check, dozen) for dozen in dozens(flags)]):
+            for group, status, output in done.result():
+                units += 1
+                if status == 0:
+                    for source in group:
+                        marks[source].touch()
+                else:
+                    failures += 1
+                    print(output, flush=True)
+    print(f"clang-tidy: {len(flags)} changed files in {units} units, {failures} units with findings")
     return 1 if failures else 0
 
 

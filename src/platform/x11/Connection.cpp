@@ -211,7 +211,8 @@ void Connection::handle(const xcb_generic_event_t& event)
 
 void Connection::call(const HandlerTable& table, const xcb_generic_event_t& event)
 {
-    const auto called = table[event.response_type & ~sentEventBit]; // a copy: handlers come and go meanwhile
+    const auto& registered = table[event.response_type & ~sentEventBit];
+    const std::vector called(registered.begin(), registered.end()); // handlers come and go meanwhile
     for (const auto& handler : called) {
         if (handler->isActive) {
             handler->function(event);

@@ -159,6 +159,7 @@ void X11ContractDesktop::waitForWindowManager()
 void X11ContractDesktop::connectScreens(const std::vector<ContractScreen>& screens)
 {
     std::vector<xtest::Monitor> monitors;
+    monitors.reserve(screens.size());
     for (const auto& screen : screens) {
         monitors.push_back({"M" + std::to_string(monitors.size()), pixels(screen.bounds),
                             monitors.empty() ? xtest::MonitorRole::primary : xtest::MonitorRole::secondary});

@@ -43,13 +43,12 @@ TEST_F(AppDelegateTest, ThePartsComeIntoBeingInOrder)
     const std::vector<std::string_view> milestones{"Bundle.resource",        "UserDefaults.setObject(selectedLayoutIDs",
                                                    "HotKeys.registerHotKey", "StatusBar.createItem",
                                                    "StatusItem.setMenu",     "Permissions.isGranted"};
+    const std::string seed = "UserDefaults.setObject(selectedLayoutIDs, [\"one_full_screen\", \"centered\", "
+                             "\"two_side_by_side\", \"two_stacked\", \"three_side_by_side\", \"four_tiled\"])";
     EXPECT_EQ(desktop.journal.entries(milestones),
-              (std::vector<std::string>{
-                  "Bundle.resource(layouts, json)",
-                  "UserDefaults.setObject(selectedLayoutIDs, [\"one_full_screen\", \"centered\", \"two_side_by_side\", "
-                  "\"two_stacked\", \"three_side_by_side\", \"four_tiled\"])",
-                  "HotKeys.registerHotKey(31, 768, 1)", "HotKeys.registerHotKey(15, 2304, 2)",
-                  "HotKeys.registerHotKey(3, 768, 3)", "StatusBar.createItem()", "StatusItem.setMenu(6)"}));
+              (std::vector<std::string>{"Bundle.resource(layouts, json)", seed, "HotKeys.registerHotKey(31, 768, 1)",
+                                        "HotKeys.registerHotKey(15, 2304, 2)", "HotKeys.registerHotKey(3, 768, 3)",
+                                        "StatusBar.createItem()", "StatusItem.setMenu(6)"}));
     desktop.turn();
     EXPECT_EQ(desktop.journal.entries({"Permissions.isGranted"}).at(0), "Permissions.isGranted(accessibility)");
 }

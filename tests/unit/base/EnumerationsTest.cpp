@@ -25,6 +25,7 @@ TEST(Action, KeepsItsOrder)
 TEST(LabelPosition, HasNineCasesRowByRow)
 {
     std::vector<std::string> rawValues;
+    rawValues.reserve(allLabelPositions.size());
     for (const auto position : allLabelPositions) {
         rawValues.emplace_back(rawValue(position));
     }

@@ -40,6 +40,7 @@ protected:
     static std::vector<MinimizedWindowEntry> entries(std::size_t count, const std::string& title = "Inbox")
     {
         std::vector<MinimizedWindowEntry> result;
+        result.reserve(count);
         for (std::size_t i = 0; i < count; ++i) {
             result.push_back({i, std::string(1, static_cast<char>('A' + i)), "Mail", title});
         }

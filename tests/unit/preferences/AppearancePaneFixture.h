@@ -68,8 +68,9 @@ protected:
     std::vector<std::string> savedNames()
     {
         press("Manage Themes…");
-        std::vector<std::string> names;
         const auto sheet = pane.form().sheet.value();
+        std::vector<std::string> names;
+        names.reserve(sheet.rows.size());
         for (const auto& row : sheet.rows) {
             names.push_back(row.title);
         }

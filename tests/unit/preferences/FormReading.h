@@ -68,6 +68,7 @@ inline std::vector<std::string> outline(const Form& form)
 inline std::vector<std::string> titlesOf(const std::vector<PaneButton>& buttons)
 {
     std::vector<std::string> titles;
+    titles.reserve(buttons.size());
     for (const auto& button : buttons) {
         titles.push_back(button.title);
     }

@@ -19,7 +19,7 @@ using Lines = std::vector<std::string>;
 
 class PreferencesWindowControllerTest : public testing::Test {
 protected:
-    SimulatedPreferencesWindow& window() { return *desktop.preferencesUi.preferencesWindows().at(0); }
+    SimulatedPreferencesWindow& window() const { return *desktop.preferencesUi.preferencesWindows().at(0); }
 
     Form formOf(std::size_t tab) { return std::get<FormModel*>(controller->content().tabs.at(tab).pane)->form(); }
 

@@ -67,6 +67,7 @@ using MoveResizeThemesListViewTest = ThemesListTest<MoveResizeTheme>;
 std::vector<std::string> titles(const std::vector<PaneButton>& buttons)
 {
     std::vector<std::string> result;
+    result.reserve(buttons.size());
     for (const auto& button : buttons) {
         result.push_back(button.title);
     }

@@ -23,6 +23,7 @@ protected:
     std::vector<KeyCode> capturedCodes() const
     {
         std::vector<KeyCode> codes;
+        codes.reserve(captured.size());
         for (const auto& key : captured) {
             codes.push_back(key.keyCode);
         }

@@ -106,6 +106,7 @@ void ListSheetDialog::fillList(const ListSheet& sheet)
 std::vector<FocusRow> ListSheetDialog::focusRows() const
 {
     std::vector<FocusRow> all;
+    all.reserve(rows.size() + 1);
     for (const auto& [id, row] : rows) {
         all.emplace_back(id, std::vector{row});
     }
