@@ -20,30 +20,13 @@
 #include <set>
 #include <utility>
 
-#include "platform/simulated/SimulatedDesktop.h"
-#include "platform/x11/desktop/ToolkitModule.h"
-#include "platform/x11/painting/TextLayouts.h"
-#include "preferences/PreferencesWindowController.h"
-#include "x11/desktop/DesktopTest.h"
+#include "x11/preferences/ShellTest.h"
 
 namespace quorvel::x11 {
 namespace {
 
-// What the toolkit makes of the real models, seen from inside: the module and the test share one Qt.
-class KeyboardUseTest : public DesktopTest {
+class KeyboardUseTest : public ShellTest {
 protected:
-    void SetUp() override
-    {
-        simulated.bundle.addResource("layouts", "json", bundle.resource("layouts", "json").value().value());
-        controller.emplace(platform, nullptr);
-        display.startWindowManager(xtest::WindowManager::openbox);
-        toolkitWindow = toolkit.createPreferencesWindow(*controller, {.didBecomeActive = [] {}, .willClose = [] {}});
-        toolkitWindow->show();
-        loop.waitFor("the preferences", [&] { return (window = activeWindow()) != nullptr; });
-    }
-
-    static QWidget* activeWindow() { return QApplication::activeWindow(); }
-
     // Controls that take part in using the window; what they are made of inside does not.
     static std::vector<QWidget*> controlsIn(const QWidget& whole)
     {
@@ -68,11 +51,6 @@ protected:
                             qobject_cast<const QAbstractItemView*>(&widget) != nullptr);
     }
 
-    static std::string nameOf(QWidget* widget)
-    {
-        return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).toStdString();
-    }
-
     static std::string describe(QWidget* widget)
     {
         return std::string(widget->metaObject()->className()) + " \"" + nameOf(widget) + '"';
@@ -86,16 +64,6 @@ protected:
             EXPECT_NE(nameOf(control), "")
                 << control->metaObject()->className() << " in " << nameOf(control->parentWidget());
         }
-    }
-
-    QAbstractButton* button(const std::string& name)
-    {
-        for (auto* const each : window->findChildren<QAbstractButton*>()) {
-            if (each->isVisible() && nameOf(each) == name) {
-                return each;
-            }
-        }
-        throw xtest::HarnessError("There is no button " + name);
     }
 
     // Presses the button and waits until a window over the one in front is there.
@@ -166,28 +134,6 @@ protected:
                           (right <= whole.width() && widget->width() >= widget->minimumSizeHint().width());
                });
     }
-
-    SimulatedDesktop simulated;
-    const Platform platform = simulated.platform();
-    std::optional<PreferencesWindowController> controller;
-    TextLayouts textLayouts{"sans"};
-    DesktopStyle style{.scheme = ColorScheme::dark, .font = "DejaVu Sans 9"};
-    std::function<void()> styleChanged;
-    ToolkitModule toolkit{
-        ToolkitModule::standardFile(),
-        display.server.display(),
-        {.imageFile = [this](std::string_view name, int pixels) { return bundle.imageFile(name, pixels); },
-         .activate = [](std::uint32_t) {},
-         .keyDown = [](std::uint8_t, std::uint16_t) { return EventHandling::pass; },
-         .textLayouts = textLayouts,
-         .style = [this] { return style; },
-         .observeStyle =
-             [this](std::function<void()> changed) {
-                 styleChanged = std::move(changed);
-                 return Subscription();
-             }}};
-    std::unique_ptr<ToolkitWindow> toolkitWindow;
-    QWidget* window = nullptr;
 };
 
 TEST_F(KeyboardUseTest, EveryControlHasAName)
