@@ -90,11 +90,16 @@ def united(lists):
     return list(dict.fromkeys(flag for flags in lists for flag in flags))
 
 
+def checks_for(source):
+    """The configuration that is nearest to the source."""
+    return next(folder / ".clang-tidy" for folder in source.parents if (folder / ".clang-tidy").is_file())
+
+
 def dozens(sources):
-    """Neighbours together; product and tests, and languages, apart."""
+    """Neighbours together; languages, and what other checks are meant for, apart."""
     areas = {}
     for source in sorted(sources):
-        areas.setdefault((source.relative_to(ROOT).parts[0], source.suffix), []).append(source)
+        areas.setdefault((checks_for(source), source.suffix), []).append(source)
     for area in areas.values():
         count = -(-len(area) // DOZEN)
         for first in range(count):
@@ -140,7 +145,15 @@ class Unit:
 
     def tidy(self):
         result = subprocess.run(
-            [TIDY, "--quiet", "--warnings-as-errors=*", self.file, "--", *self.flags],
+            [
+                TIDY,
+                "--quiet",
+                "--warnings-as-errors=*",
+                f"--config-file={checks_for(self.sources[0])}",
+                self.file,
+                "--",
+                *self.flags,
+            ],
             capture_output=True,
             text=True,
             cwd=ROOT,

@@ -6,7 +6,7 @@ from tidy import ROOT, compatible_groups, dozens, flags_of
 
 
 class Dozens(unittest.TestCase):
-    def test_product_and_tests_are_apart_and_nothing_is_lost(self):
+    def test_those_with_other_checks_are_apart_and_nothing_is_lost(self):
         sources = [ROOT / area / f"{number}.cpp" for area in ("src", "tests") for number in range(20)]
         groups = list(dozens(sources))
         self.assertEqual(sorted(source for group in groups for source in group), sorted(sources))

@@ -11,8 +11,8 @@
 namespace quorvel::x11 {
 namespace {
 
-// A desktop whose pixels are half as wide as the ones that windows are measured in. Qt asks for that once, at its start,
-// so this runs in a process of its own.
+// A desktop whose pixels are half as wide as the ones that windows are measured in. Qt asks for that once, at its
+// start, so this runs in a process of its own.
 class ScaleTest : public ShellTest {
 protected:
     ScaleTest() : isFirst(QApplication::instance() == nullptr) { setenv(variable, "2", 1); }
@@ -24,8 +24,7 @@ protected:
         std::vector<QWidget*> found;
         for (auto* const widget : window->findChildren<QWidget*>()) {
             const std::string_view kind = typeid(*widget).name();
-            const bool isPicture =
-                kind.find("PreviewWidget") != kind.npos || kind.find("Thumbnail") != kind.npos;
+            const bool isPicture = kind.find("PreviewWidget") != kind.npos || kind.find("Thumbnail") != kind.npos;
             if (isPicture && widget->isVisible()) {
                 found.push_back(widget);
             }
@@ -59,7 +58,8 @@ TEST_F(ScaleTest, PicturesHaveAllThePixelsOfAFineScreen)
     if (!isFirst) {
         GTEST_SKIP() << "needs a process of its own";
     }
-    for (const std::string tab : {"Layout Appearance", "Window Switcher Appearance", "Move/Resize Appearance", "Layouts"}) {
+    for (const std::string tab :
+         {"Layout Appearance", "Window Switcher Appearance", "Move/Resize Appearance", "Layouts"}) {
         button(tab)->click();
         loop.waitFor("the pictures of " + tab, [&] { return !pictures().empty(); });
         for (auto* const picture : pictures()) {
