@@ -1,3 +1,4 @@
+#include <QLineEdit>
 #include <map>
 #include <string>
 #include <vector>
@@ -136,6 +137,24 @@ TEST_F(LayoutsPane, DigitsAreTypedFromFieldToFieldByTheTabKey)
                                                    {"two_stacked", "7"},
                                                    {"three_side_by_side", "5"},
                                                    {"four_tiled", "6"}}));
+    });
+}
+
+TEST_F(LayoutsPane, ADigitThatIsStoredForAnotherRowLeavesTheFieldWithTheKeyboardReadyForTheNextKey)
+{
+    inPane("Layouts", [&] {
+        person.typeDigit("Centered", {XKB_KEY_9});
+        waitForDigit("Centered", "9");
+        person.tap(XKB_KEY_Tab);
+        session.waitFor("the next field", [] {
+            const auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+            return field != nullptr && field->selectedText() == "3";
+        });
+        changeFromOutside("layoutShortcuts", digits({{"two_side_by_side", "3"}, {"four_tiled", "7"}}));
+        waitForDigit("Four Tiles", "7");
+        person.tap(XKB_KEY_8);
+        person.tap(XKB_KEY_Tab);
+        waitUntilStored("layoutShortcuts", digits({{"two_side_by_side", "8"}, {"four_tiled", "7"}}));
     });
 }
 

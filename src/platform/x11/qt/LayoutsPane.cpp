@@ -184,12 +184,20 @@ void LayoutsPane::showSelected(const LayoutsPaneContent& content)
     }
 }
 
-// In the fields that are there, so that the one with the keyboard keeps it.
+// In the fields that are there, so that the one with the keyboard keeps it, and what is selected in it: the next key
+// has to replace that.
 void LayoutsPane::showDigits(const std::vector<SelectedLayoutRow>& rows)
 {
     for (std::size_t index = 0; index < rows.size(); ++index) {
-        if (!digitFields[index]->isModified()) {
-            digitFields[index]->setText(text(rows[index].digit));
+        auto& field = *digitFields[index];
+        const auto digit = text(rows[index].digit);
+        if (field.isModified() || field.text() == digit) {
+            continue;
+        }
+        const bool wasSelected = field.hasSelectedText();
+        field.setText(digit);
+        if (wasSelected) {
+            field.selectAll();
         }
     }
 }
