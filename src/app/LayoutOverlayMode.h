@@ -31,7 +31,6 @@ public:
     void leave() { current.reset(); }
 
     // Puts the window into a frame of a layout on the current screen.
-    void reportGoneWindow(const std::shared_ptr<WindowElementModel>& element) const;
     void placeWindow(const WindowModel& frame, const ScreensModel& screens, WindowElementModel& element) const;
 
 private:
@@ -52,6 +51,7 @@ private:
     std::optional<ScreensModel> stepScreen(Action action, const Showing& showing) const;
     void jump(const std::string& digit, const Showing& showing) const;
     void choose(const std::string& character, const Showing& showing) const;
+    void reportGoneWindow(const std::shared_ptr<WindowElementModel>& element) const;
 
     ModeEnvironment environment;
     std::shared_ptr<const Showing> current; // present while the overlay is up

@@ -45,8 +45,8 @@ public:
     void blockAllKeys();
 
     // The tap's keys reach the handler in a later turn of the main queue, the panel's at once; of several, each after
-    // what the one before it has set going. Setting a handler, not
-    // taking it away with an empty one, shows the panel if there are keys to block and no tap.
+    // what the one before it has set going. Setting a handler, not taking it away with an empty one, shows the panel if
+    // there are keys to block and no tap.
     void setOnBlockKey(CapturedKeyHandler handler);
 
     // Shows the panel, unless it has the focus already, and remembers who had it.

@@ -25,7 +25,7 @@ from pathlib import Path
 
 TIDY = "clang-tidy-19"
 COMPILER = "clang++-19"
-DOZEN = 16
+UNIT_SIZE = 12
 ROOT = Path(__file__).resolve().parents[2]
 INCLUDE = re.compile(rb'^\s*#\s*(?:include|import)\s+"([^"]+)"', re.MULTILINE)
 INCLUDE_FOLDERS = [ROOT / "src", ROOT / "tests", ROOT]
@@ -101,7 +101,7 @@ def dozens(sources):
     for source in sorted(sources):
         areas.setdefault((checks_for(source), source.suffix), []).append(source)
     for area in areas.values():
-        count = -(-len(area) // DOZEN)
+        count = -(-len(area) // UNIT_SIZE)
         for first in range(count):
             yield area[first * len(area) // count : (first + 1) * len(area) // count]
 
