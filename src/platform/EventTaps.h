@@ -4,8 +4,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <set>
 
+#include "base/KeyCodeSet.h"
 #include "base/Keys.h"
 
 namespace quorvel {
@@ -69,7 +69,7 @@ public:
     // X11: a tap sees only keys of this set. All 256 codes become one grab of the keyboard; a smaller set becomes
     // grabs of those keys. A key that is held when its grab would end stays grabbed until it is released, so that
     // its auto-repeat reaches nobody.
-    virtual bool setKeysOfInterest(const std::set<KeyCode>& keyCodes) = 0;
+    virtual bool setKeysOfInterest(const KeyCodeSet& keyCodes) = 0;
 };
 
 class EventTaps {

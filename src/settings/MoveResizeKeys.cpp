@@ -5,7 +5,7 @@
 
 namespace quorvel {
 
-std::set<KeyCode> MoveResizeKeys::keyCodes() const
+KeyCodeSet MoveResizeKeys::keyCodes() const
 {
     return {moveLeft, moveRight, moveUp, moveDown, cycleWindows, minimize, exitMode};
 }

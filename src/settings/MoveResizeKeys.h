@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <set>
 
+#include "base/KeyCodeSet.h"
 #include "base/Keys.h"
 
 namespace quorvel {
@@ -20,7 +20,7 @@ struct MoveResizeKeys {
     KeyCode exitMode = 0;
     std::uint64_t resizeModifierFlags = 0; // eventFlags
 
-    std::set<KeyCode> keyCodes() const;
+    KeyCodeSet keyCodes() const;
 
     // True when the flags of a key event are the resize modifiers and no others.
     bool isResizing(std::uint64_t flags) const;

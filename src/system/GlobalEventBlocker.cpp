@@ -59,12 +59,12 @@ bool GlobalEventBlocker::hasEventTap() const
     return eventTap && !isTapRefusedKeys;
 }
 
-const std::set<KeyCode>& GlobalEventBlocker::blockedKeyCodes() const
+const KeyCodeSet& GlobalEventBlocker::blockedKeyCodes() const
 {
     return keyCodes;
 }
 
-void GlobalEventBlocker::setBlockedKeyCodes(std::set<KeyCode> newKeyCodes)
+void GlobalEventBlocker::setBlockedKeyCodes(KeyCodeSet newKeyCodes)
 {
     if (newKeyCodes == keyCodes) {
         return;

@@ -3,8 +3,8 @@
 #include <bitset>
 #include <memory>
 #include <optional>
-#include <set>
 
+#include "base/KeyCodeSet.h"
 #include "base/Keys.h"
 #include "base/WeakGuard.h"
 #include "platform/EventTaps.h"
@@ -38,8 +38,8 @@ public:
     // the keys are cleared.
     bool hasEventTap() const;
 
-    const std::set<KeyCode>& blockedKeyCodes() const;
-    void setBlockedKeyCodes(std::set<KeyCode> keyCodes);
+    const KeyCodeSet& blockedKeyCodes() const;
+    void setBlockedKeyCodes(KeyCodeSet keyCodes);
 
     // Adds every key there is, and shows the panel where there is no tap.
     void blockAllKeys();
@@ -74,7 +74,7 @@ private:
     std::unique_ptr<EventTap> eventTap;
     bool hasRunLoopSource = false;
     bool isTapRefusedKeys = false;
-    std::set<KeyCode> keyCodes;
+    KeyCodeSet keyCodes;
     std::bitset<256> fastKeyCodes; // the part of keyCodes that keyboards have; the tap decides by it in no time
     std::unique_ptr<KeyCapturePanel> keyCapturePanel;
     std::optional<ProcessId> previousApp;

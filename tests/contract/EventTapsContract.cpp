@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
-#include <set>
 #include <vector>
 
 #include "contract/ContractTest.h"
@@ -18,9 +17,9 @@ constexpr auto hotKeyFlags = eventFlags::control | eventFlags::option;
 
 using Keys = std::vector<KeyCode>;
 
-std::set<KeyCode> allKeys()
+KeyCodeSet allKeys()
 {
-    std::set<KeyCode> keys;
+    KeyCodeSet keys;
     for (KeyCode each = 0; each < 256; ++each) {
         keys.insert(each);
     }
@@ -42,7 +41,7 @@ protected:
         });
     }
 
-    std::unique_ptr<EventTap> startTap(std::set<KeyCode> keys)
+    std::unique_ptr<EventTap> startTap(KeyCodeSet keys)
     {
         auto tap = createTap();
         EXPECT_TRUE(tap->createRunLoopSource());
@@ -52,7 +51,7 @@ protected:
         return tap;
     }
 
-    bool setInterest(EventTap& tap, std::set<KeyCode> keys)
+    bool setInterest(EventTap& tap, KeyCodeSet keys)
     {
         interest = std::move(keys);
         return tap.setKeysOfInterest(interest);
@@ -86,7 +85,7 @@ protected:
 
     ContractWindow editor = desktop->openWindow("Editor", "Notes", {100.0, 120.0, 500.0, 400.0});
     EventTaps& taps = port(&ContractPorts::eventTaps);
-    std::set<KeyCode> interest;
+    KeyCodeSet interest;
     Keys seen;
     std::vector<KeyEvent> events;
     int hotKeyPresses = 0;

@@ -44,11 +44,11 @@ void SimulatedEventTap::setEnabled(bool enabled)
     registration->isEnabled = enabled;
 }
 
-bool SimulatedEventTap::setKeysOfInterest(const std::set<KeyCode>& keyCodes)
+bool SimulatedEventTap::setKeysOfInterest(const KeyCodeSet& keyCodes)
 {
     journal.record("EventTap.setKeysOfInterest({})", fmt::join(keyCodes, ", "));
     const bool succeeds = keyCodes.empty() || !eventTaps.refusesKeys();
-    registration->keysOfInterest = succeeds ? keyCodes : std::set<KeyCode>{};
+    registration->keysOfInterest = succeeds ? keyCodes : KeyCodeSet{};
     return succeeds;
 }
 

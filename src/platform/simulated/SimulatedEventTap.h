@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <set>
 
 #include "platform/EventTaps.h"
 
@@ -16,7 +15,7 @@ public:
     struct Registration {
         EventTapDescription description;
         EventTapCallback callback;
-        std::set<KeyCode> keysOfInterest;
+        KeyCodeSet keysOfInterest;
         bool hasSource = false;
         bool isInRunLoop = false;
         bool isEnabled = false;
@@ -32,7 +31,7 @@ public:
     void addSourceToRunLoop() override;
     void removeSourceFromRunLoop() override;
     void setEnabled(bool enabled) override;
-    bool setKeysOfInterest(const std::set<KeyCode>& keyCodes) override;
+    bool setKeysOfInterest(const KeyCodeSet& keyCodes) override;
 
 private:
     Journal& journal;

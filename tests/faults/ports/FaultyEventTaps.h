@@ -49,14 +49,14 @@ public:
         faults.attemptEffect("EventTap.setEnabled", [&] { real->setEnabled(enabled); });
     }
 
-    bool setKeysOfInterest(const std::set<KeyCode>& keyCodes) override
+    bool setKeysOfInterest(const KeyCodeSet& keyCodes) override
     {
         if (keyCodes.empty()) { // which always succeeds
             return real->setKeysOfInterest(keyCodes);
         }
         const bool fails = faults.next("EventTap.setKeysOfInterest", 1).has_value();
         // A tap that cannot get hold of its keys sees none.
-        return real->setKeysOfInterest(fails ? std::set<KeyCode>() : keyCodes) && !fails;
+        return real->setKeysOfInterest(fails ? KeyCodeSet() : keyCodes) && !fails;
     }
 
 private:

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -142,9 +141,9 @@ protected:
     std::optional<QuorvelApp> app;
 };
 
-inline std::set<KeyCode> allKeyCodes()
+inline KeyCodeSet allKeyCodes()
 {
-    std::set<KeyCode> keyCodes;
+    KeyCodeSet keyCodes;
     for (KeyCode keyCode = 0; keyCode < 256; ++keyCode) {
         keyCodes.insert(keyCode);
     }

@@ -1,7 +1,6 @@
 #include "tests/unit/app/ModeWalker.h"
 
 #include <array>
-#include <set>
 #include <string_view>
 #include <utility>
 
@@ -300,7 +299,7 @@ std::optional<std::string> ModeWalker::problem()
 std::optional<std::string> ModeWalker::problemOf(Mode mode)
 {
     constexpr std::size_t allKeys = 256;
-    std::set<KeyCode> keys = app.blocker().blockedKeyCodes();
+    KeyCodeSet keys = app.blocker().blockedKeyCodes();
     if (isReleased) {
         return keys.empty() ? std::nullopt : std::optional("keys are blocked beside the preferences");
     }
@@ -308,7 +307,7 @@ std::optional<std::string> ModeWalker::problemOf(Mode mode)
         return keys.size() == allKeys ? std::nullopt : std::optional("keys reach others under the labels");
     }
     keys.insert(keyCodes::escape); // unless Tab was the exit key when the mode began
-    const bool areThose = keys == std::set<KeyCode>(modeKeys.begin(), modeKeys.end());
+    const bool areThose = keys == KeyCodeSet(modeKeys.begin(), modeKeys.end());
     return areThose ? std::nullopt : std::optional("the move/resize mode has other keys than its own");
 }
 

@@ -4,7 +4,6 @@
 #include <functional>
 #include <memory>
 #include <ranges>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -104,7 +103,7 @@ protected:
 
     bool isModeGone() { return element() == nullptr && isOverlayGone(); }
 
-    static std::set<KeyCode> sevenKeys() { return {123, 124, 125, 126, 48, 53, 46}; }
+    static KeyCodeSet sevenKeys() { return {123, 124, 125, 126, 48, 53, 46}; }
 
     static constexpr AxRect neighbour{600, 100, 400, 400};
 

@@ -1,7 +1,6 @@
 #include "platform/simulated/SimulatedEventTaps.h"
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -25,7 +24,7 @@ protected:
         });
     }
 
-    static void start(EventTap& tap, const std::set<KeyCode>& keys)
+    static void start(EventTap& tap, const KeyCodeSet& keys)
     {
         tap.createRunLoopSource();
         tap.addSourceToRunLoop();

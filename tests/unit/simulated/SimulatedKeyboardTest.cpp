@@ -1,4 +1,3 @@
-#include <set>
 #include <string>
 #include <vector>
 
@@ -11,7 +10,7 @@ namespace {
 
 class SimulatedKeyboardTest : public testing::Test {
 protected:
-    std::unique_ptr<EventTap> startTap(const std::set<KeyCode>& keys)
+    std::unique_ptr<EventTap> startTap(const KeyCodeSet& keys)
     {
         auto tap = desktop.eventTaps.createTap({.eventMask = keyDownEventMask}, [this](const TapEvent& event) {
             seen.push_back(event.keyCode());

@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <optional>
-#include <set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -54,7 +53,7 @@ protected:
         return application ? std::optional(application->process) : std::nullopt;
     }
 
-    void startWithHandler(const std::set<KeyCode>& keyCodes)
+    void startWithHandler(const KeyCodeSet& keyCodes)
     {
         blocker->start();
         blocker->setBlockedKeyCodes(keyCodes);
@@ -62,7 +61,7 @@ protected:
     }
 
     // No tap can be had, so the panel stands in.
-    void startRefused(const std::set<KeyCode>& keyCodes)
+    void startRefused(const KeyCodeSet& keyCodes)
     {
         desktop.eventTaps.refuseTaps();
         startWithHandler(keyCodes);

@@ -1,7 +1,6 @@
 #include "system/GlobalEventBlocker.h"
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -228,7 +227,7 @@ TEST_F(GlobalEventBlockerTest, StoppingGivesUpTheTapAndKeepsTheKeys)
               (std::vector<std::string>{"EventTap.setEnabled(false)", "EventTap.removeSourceFromRunLoop()",
                                         "EventTap.destroy()"}));
     EXPECT_FALSE(blocker->hasEventTap());
-    EXPECT_EQ(blocker->blockedKeyCodes(), (std::set<KeyCode>{31}));
+    EXPECT_EQ(blocker->blockedKeyCodes(), (KeyCodeSet{31}));
 
     desktop.press(31);
     desktop.drain();

@@ -1,5 +1,4 @@
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -118,7 +117,7 @@ TEST_F(KeyCapturePanelTest, StoppingGivesTheFocusBackAndKeepsTheKeys)
     blocker->stop();
     EXPECT_FALSE(isPanelVisible());
     EXPECT_EQ(frontmost(), editor.process());
-    EXPECT_EQ(blocker->blockedKeyCodes(), (std::set<KeyCode>{31}));
+    EXPECT_EQ(blocker->blockedKeyCodes(), (KeyCodeSet{31}));
 }
 
 TEST_F(KeyCapturePanelTest, AnApplicationThatQuitMeanwhileIsNotActivatedAndForgotten)

@@ -102,9 +102,9 @@ void KeysDisplay::giveKeyboardBackElsewhere()
     other.sync();
 }
 
-std::set<KeyCode> allKeyCodes()
+KeyCodeSet allKeyCodes()
 {
-    std::set<KeyCode> keyCodes;
+    KeyCodeSet keyCodes;
     for (KeyCode keyCode = 0; keyCode < 256; ++keyCode) {
         keyCodes.insert(keyCode);
     }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -58,6 +57,6 @@ public:
     xtest::XClient other; // another program
 };
 
-std::set<KeyCode> allKeyCodes();
+KeyCodeSet allKeyCodes();
 
 } // namespace quorvel::x11

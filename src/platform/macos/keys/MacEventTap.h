@@ -21,7 +21,7 @@ public:
     void addSourceToRunLoop() override;
     void removeSourceFromRunLoop() override;
     void setEnabled(bool enabled) override;
-    bool setKeysOfInterest(const std::set<KeyCode>& keyCodes) override;
+    bool setKeysOfInterest(const KeyCodeSet& keyCodes) override;
 
 private:
     static CGEventRef seen(CGEventTapProxy proxy, CGEventType type, CGEventRef event, void* context);

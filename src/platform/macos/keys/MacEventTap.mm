@@ -124,7 +124,7 @@ void MacEventTap::setEnabled(bool enabled)
     }
 }
 
-bool MacEventTap::setKeysOfInterest(const std::set<KeyCode>&)
+bool MacEventTap::setKeysOfInterest(const KeyCodeSet&)
 {
     return true;
 }

@@ -42,7 +42,7 @@ void X11EventTap::setActivity(bool inRunLoop, bool enabled)
     owner.grabKeysOfInterest(X11EventTaps::Farewell::atOnce);
 }
 
-bool X11EventTap::setKeysOfInterest(const std::set<KeyCode>& newKeyCodes)
+bool X11EventTap::setKeysOfInterest(const KeyCodeSet& newKeyCodes)
 {
     keyCodes = newKeyCodes;
     // Whoever clears the keys may be about to set others; until then no key should slip through.
@@ -60,9 +60,9 @@ bool X11EventTap::wants(KeyCode keyCode) const
     return isActive() && (description.eventMask & keyDownEventMask) != 0 && keyCodes.contains(keyCode);
 }
 
-std::set<KeyCode> X11EventTap::activeKeys() const
+KeyCodeSet X11EventTap::activeKeys() const
 {
-    return isActive() ? keyCodes : std::set<KeyCode>();
+    return isActive() ? keyCodes : KeyCodeSet();
 }
 
 TapDecision X11EventTap::decide(const TapEvent& event) const

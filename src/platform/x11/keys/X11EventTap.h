@@ -1,7 +1,5 @@
 #pragma once
 
-#include <set>
-
 #include "platform/EventTaps.h"
 
 namespace quorvel::x11 {
@@ -19,10 +17,10 @@ public:
     void addSourceToRunLoop() override;
     void removeSourceFromRunLoop() override;
     void setEnabled(bool enabled) override;
-    bool setKeysOfInterest(const std::set<KeyCode>& keyCodes) override;
+    bool setKeysOfInterest(const KeyCodeSet& keyCodes) override;
 
     // The keys that the tap gets now: none unless it is enabled and its source is in the main loop.
-    std::set<KeyCode> activeKeys() const;
+    KeyCodeSet activeKeys() const;
 
     bool wants(KeyCode keyCode) const;
 
@@ -35,7 +33,7 @@ private:
     X11EventTaps& owner;
     EventTapDescription description;
     EventTapCallback callback;
-    std::set<KeyCode> keyCodes;
+    KeyCodeSet keyCodes;
     bool isInRunLoop = false;
     bool isEnabled = false;
 };

@@ -39,9 +39,10 @@ private:
     KeyCode code;
 };
 
-bool areAllKeys(const std::set<KeyCode>& keyCodes)
+bool areAllKeys(const KeyCodeSet& keyCodes)
 {
-    return std::distance(keyCodes.lower_bound(0), keyCodes.lower_bound(keyCodeCount)) == keyCodeCount;
+    const auto first = std::ranges::lower_bound(keyCodes, 0);
+    return std::ranges::lower_bound(keyCodes, keyCodeCount) - first == keyCodeCount;
 }
 
 std::vector<KeyState> modifierCombinations(const KeyMapping& mapping)
@@ -97,11 +98,11 @@ void X11EventTaps::remove(const X11EventTap& tap)
     grabKeysOfInterest(Farewell::atOnce);
 }
 
-std::set<KeyCode> X11EventTaps::keysOfInterest() const
+KeyCodeSet X11EventTaps::keysOfInterest() const
 {
-    std::set<KeyCode> keyCodes;
+    KeyCodeSet keyCodes;
     for (const auto* tap : taps) {
-        keyCodes.merge(tap->activeKeys());
+        keyCodes.insert(tap->activeKeys());
     }
     return keyCodes;
 }
@@ -127,7 +128,7 @@ bool X11EventTaps::grabWholeKeyboard()
     return true;
 }
 
-bool X11EventTaps::grabKeys(const std::set<KeyCode>& keyCodes)
+bool X11EventTaps::grabKeys(const KeyCodeSet& keyCodes)
 {
     const auto wanted = combinationsOf(keyCodes);
     const auto refused = grabs.take(difference(wanted, taken), KeyGrabs::Mode::stopping);
@@ -152,11 +153,14 @@ void X11EventTaps::giveBackKeyboard(Farewell farewell)
     }
 }
 
-KeyGrabs::Combinations X11EventTaps::combinationsOf(const std::set<KeyCode>& keyCodes) const
+KeyGrabs::Combinations X11EventTaps::combinationsOf(const KeyCodeSet& keyCodes) const
 {
+    KeyGrabs::Combinations combinations;
+    if (keyCodes.empty()) {
+        return combinations;
+    }
     const KeyMapping& mapping = keyboard.mapping();
     const auto states = modifierCombinations(mapping);
-    KeyGrabs::Combinations combinations;
     for (const auto keyCode : keyCodes) {
         for (const auto keycode : mapping.keycodes(keyCode)) {
             for (const auto state : states) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <set>
 #include <vector>
 
 #include "base/Subscription.h"
@@ -30,12 +29,12 @@ private:
 
     enum class Farewell { whenKeysAreUp, soon, atOnce };
 
-    std::set<KeyCode> keysOfInterest() const;
+    KeyCodeSet keysOfInterest() const;
     bool grabKeysOfInterest(Farewell farewell);
     bool grabWholeKeyboard();
-    bool grabKeys(const std::set<KeyCode>& keyCodes);
+    bool grabKeys(const KeyCodeSet& keyCodes);
     void giveBackKeyboard(Farewell farewell);
-    KeyGrabs::Combinations combinationsOf(const std::set<KeyCode>& keyCodes) const;
+    KeyGrabs::Combinations combinationsOf(const KeyCodeSet& keyCodes) const;
     StrokeOutcome handlePress(const KeyStroke& stroke);
     void remove(const X11EventTap& tap);
 
