@@ -30,7 +30,7 @@ debianPackages() {
         ;;
     package) echo debhelper dpkg-dev fakeroot xz-utils lintian appstream desktop-file-utils debootstrap ;;
     bench)
-        echo libbenchmark-dev xvfb openbox picom xterm rofi sxhkd wmctrl fonts-dejavu-core
+        echo libbenchmark-dev xvfb openbox i3-wm picom xterm rofi sxhkd wmctrl xdotool fonts-dejavu-core fonts-inter
         ;;
     lint)
         echo clang-format-19 clang-tidy-19 shellcheck python3 python3-yaml git

@@ -1,5 +1,12 @@
 #include "latency/BenchDesktop.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include <fmt/format.h>
+#include <xkbcommon/xkbcommon.h>
+
 #include "support/Patience.h"
 
 namespace quorvel::bench {
@@ -10,52 +17,66 @@ using xtest::HarnessError;
 
 namespace {
 
-// Two bindings that place the active window, as a person would write them.
-constexpr auto openboxConfiguration = R"(<?xml version="1.0" encoding="UTF-8"?>
-<openbox_config xmlns="http://openbox.org/3.4/rc">
-  <keyboard>
-    <keybind key="W-F1"><action name="MoveResizeTo">
-      <x>0</x><y>0</y><width>960</width><height>1080</height>
-    </action></keybind>
-    <keybind key="W-F2"><action name="MoveResizeTo">
-      <x>960</x><y>0</y><width>960</width><height>1080</height>
-    </action></keybind>
-  </keyboard>
-</openbox_config>
-)";
+std::string nameOf(xcb_keysym_t key)
+{
+    std::array<char, 32> name{};
+    xkb_keysym_get_name(key, name.data(), name.size());
+    return name.data();
+}
 
 } // namespace
 
-BenchDesktop::BenchDesktop(Compositing compositing)
+BenchDesktop::BenchDesktop(const DesktopPlan& plan, Compositing compositing) : compositingState(compositing)
 {
-    startWindowManager();
+    startWindowManager(plan.windowManager);
     if (compositing == Compositing::on) {
         startCompositor();
     }
-    openWindows();
+    openWindow({"xterm", "-e", "cat"});
+    otherWindow = openWindow({"xterm", "-T", otherTitle, "-e", "cat"});
+    targetWindow = openWindow({QUORVEL_PLAIN_CLIENT, targetTitle});
+    constexpr std::size_t opened = 3;
+    if (plan.windowCount > opened) {
+        manyWindows.emplace(server, probe, plan.windowCount - opened);
+    }
+    probe.rest();
 }
 
-std::unique_ptr<ChildProcess> BenchDesktop::start(std::vector<std::string> words) const
+void BenchDesktop::start(std::vector<std::string> words)
 {
     auto environment = server.clientEnvironment();
     environment["SHELL"] = "/bin/sh"; // what the shortcut daemon runs commands with
-    return std::make_unique<ChildProcess>(Command{std::move(words), std::move(environment), {}});
+    processes.push_back(std::make_unique<ChildProcess>(Command{std::move(words), std::move(environment), {}}));
 }
 
-std::unique_ptr<ChildProcess> BenchDesktop::startShortcutDaemon(const std::string& configuration)
+void BenchDesktop::startAwaiting(const std::vector<xcb_keysym_t>& keys, std::vector<std::string> words)
 {
+    const auto program = words.front();
+    start(std::move(words));
+    if (!probe.waitFor(
+            [&] { return std::ranges::all_of(keys, [this](xcb_keysym_t key) { return probe.isHotKey(key); }); })) {
+        throw HarnessError(program + " did not take its keys");
+    }
+}
+
+void BenchDesktop::startShortcutDaemon(const std::vector<Shortcut>& shortcuts)
+{
+    std::string configuration;
+    std::vector<xcb_keysym_t> keys;
+    for (const auto& [key, command] : shortcuts) {
+        configuration += fmt::format("super + {}\n  {}\n\n", nameOf(key), command);
+        keys.push_back(key);
+    }
     const auto file = server.home().write(".config/sxhkd/sxhkdrc", configuration);
-    auto daemon = start({"sxhkd", "-c", file.string()});
-    // It says nothing when it is ready, but grabs keys right after it has read its configuration.
-    probe.rest();
-    probe.rest();
-    return daemon;
+    startAwaiting(keys, {"sxhkd", "-c", file.string()});
 }
 
-void BenchDesktop::startWindowManager()
+void BenchDesktop::startWindowManager(const WindowManagerSetup& setup)
 {
-    const auto file = server.home().write(".config/openbox/rc.xml", openboxConfiguration);
-    processes.push_back(start({"openbox", "--sm-disable", "--config-file", file.string()}));
+    std::vector<std::string> words = {setup.program};
+    words.insert(words.end(), setup.options.begin(), setup.options.end());
+    words.push_back(server.home().write("window-manager.conf", setup.configuration).string());
+    start(std::move(words));
     if (!probe.waitFor([this] { return probe.hasSelectionOwner("WM_S0"); })) {
         throw HarnessError("the window manager did not start");
     }
@@ -64,28 +85,24 @@ void BenchDesktop::startWindowManager()
 void BenchDesktop::startCompositor()
 {
     const auto file = server.home().write(".config/picom.conf", "backend = \"xrender\";\n");
-    processes.push_back(start({"picom", "--config", file.string()}));
+    start({"picom", "--config", file.string()});
     if (!probe.waitFor([this] { return probe.hasSelectionOwner("_NET_WM_CM_S0"); })) {
         throw HarnessError("the compositor did not start");
     }
 }
 
-void BenchDesktop::openWindows()
+xcb_window_t BenchDesktop::openWindow(std::vector<std::string> words)
 {
-    const std::vector<std::vector<std::string>> programs = {
-        {"xterm", "-e", "cat"}, {"xterm", "-e", "cat"}, {QUORVEL_PLAIN_CLIENT, "Target"}};
-    for (const auto& words : programs) {
-        const auto before = probe.activeWindow();
-        processes.push_back(start(words));
-        if (!probe.waitFor([&] {
-                const auto active = probe.activeWindow();
-                return active != XCB_NONE && active != before;
-            })) {
-            throw HarnessError(words.front() + " did not start");
-        }
+    const auto before = probe.activeWindow();
+    const auto program = words.front();
+    start(std::move(words));
+    if (!probe.waitFor([&] {
+            const auto active = probe.activeWindow();
+            return active != XCB_NONE && active != before;
+        })) {
+        throw HarnessError(program + " did not start");
     }
-    targetWindow = probe.activeWindow();
-    probe.rest();
+    return probe.activeWindow();
 }
 
 } // namespace quorvel::bench

@@ -1,9 +1,7 @@
 #include "latency/EventProbe.h"
 
 #include <algorithm>
-#include <array>
 #include <ranges>
-#include <span>
 #include <thread>
 
 #include <poll.h>
@@ -27,7 +25,6 @@ constexpr auto patience = 3s;      // of a measurement; what takes longer counts
 constexpr auto quiet = 60ms;       // without painting in the new windows, they are painted
 constexpr auto holdTime = 20ms;    // how long a finger stays on a key
 constexpr auto modifierLead = 3ms; // between the modifiers and the key
-constexpr int leastSide = 8;       // smaller windows are helpers that nobody sees
 
 bool overlaps(const PixelRect& a, const xcb_rectangle_t& b)
 {
@@ -54,7 +51,7 @@ EventProbe::EventProbe(const xtest::XServer& server) : xcb(xcb_connect(server.di
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(xcb, root(), XCB_CW_EVENT_MASK, &mask);
     xcb_damage_create(xcb, xcb_generate_id(xcb), root(), XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
-    readTopLevels();
+    topLevels.read(xcb, root());
 }
 
 EventProbe::~EventProbe()
@@ -71,14 +68,13 @@ std::optional<Milliseconds> EventProbe::pressUntilPainted(const Chord& chord, st
     const auto observe = [&](const xcb_generic_event_t& event, Clock::time_point now) {
         if ((event.response_type & 0x7F) == XCB_MAP_NOTIFY) {
             const auto window = reinterpret_cast<const xcb_map_notify_event_t&>(event).window;
-            const auto& frame = topLevels[window].frame;
-            if (frame.width >= leastSide && frame.height >= leastSide) {
+            if (TopLevels::isLargeEnoughToSee(frameOf(window))) {
                 shown.push_back(window);
                 lastPainting = now;
             }
         } else if ((event.response_type & 0x7F) == damageEvent) {
             const auto& area = reinterpret_cast<const xcb_damage_notify_event_t&>(event).area;
-            if (std::ranges::any_of(shown, [&](auto window) { return overlaps(topLevels[window].frame, area); })) {
+            if (std::ranges::any_of(shown, [&](auto window) { return overlaps(frameOf(window), area); })) {
                 lastPainting = now;
             }
         }
@@ -110,7 +106,7 @@ std::optional<Milliseconds> EventProbe::pressUntilPlaced(const Chord& chord, xcb
     readEvents(
         begin + patience, [&] { return reached.has_value(); },
         [&](const xcb_generic_event_t&, Clock::time_point now) {
-            if (!reached && topLevels[topLevel].frame == frame) {
+            if (!reached && frameOf(topLevel) == frame) {
                 reached = now;
             }
         });
@@ -152,13 +148,6 @@ bool EventProbe::pressUntilVisible(const Chord& chord, std::size_t windowCount)
     return done;
 }
 
-std::size_t EventProbe::visibleCount() const
-{
-    return static_cast<std::size_t>(std::ranges::count_if(topLevels | std::views::values, [](const TopLevel& topLevel) {
-        return topLevel.isVisible && topLevel.frame.width >= leastSide && topLevel.frame.height >= leastSide;
-    }));
-}
-
 xcb_window_t EventProbe::topLevelOf(xcb_window_t window) const
 {
     for (;;) {
@@ -194,12 +183,6 @@ bool EventProbe::waitFor(const std::function<bool()>& condition)
     return true;
 }
 
-PixelRect EventProbe::frameOf(xcb_window_t topLevel) const
-{
-    const auto found = topLevels.find(topLevel);
-    return found == topLevels.end() ? PixelRect() : found->second.frame;
-}
-
 xcb_window_t EventProbe::activeWindow() const
 {
     const auto query = xcb_get_property(xcb, 0, root(), atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1);
@@ -215,6 +198,20 @@ bool EventProbe::hasSelectionOwner(const std::string& selection) const
     const auto query = xcb_get_selection_owner(xcb, atom(selection));
     const XReply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(xcb, query, nullptr));
     return owner && owner->owner != XCB_NONE;
+}
+
+bool EventProbe::isHotKey(xcb_keysym_t key)
+{
+    xcb_grab_server(xcb); // so that nobody finds the key taken by the attempt
+    const XReply<xcb_generic_error_t> refusal(
+        xcb_request_check(xcb, xcb_grab_key_checked(xcb, 0, root(), XCB_MOD_MASK_4, codeOf(key), XCB_GRAB_MODE_ASYNC,
+                                                    XCB_GRAB_MODE_ASYNC)));
+    if (!refusal) {
+        xcb_ungrab_key(xcb, codeOf(key), root(), XCB_MOD_MASK_4);
+    }
+    xcb_ungrab_server(xcb);
+    sync();
+    return refusal != nullptr;
 }
 
 xcb_atom_t EventProbe::atom(const std::string& name) const
@@ -269,22 +266,6 @@ std::uint8_t EventProbe::codeOf(xcb_keysym_t keysym)
     return code;
 }
 
-void EventProbe::readTopLevels()
-{
-    const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(xcb, xcb_query_tree(xcb, root()), nullptr));
-    for (const auto window : std::span(xcb_query_tree_children(tree.get()),
-                                       static_cast<std::size_t>(xcb_query_tree_children_length(tree.get())))) {
-        const XReply<xcb_get_geometry_reply_t> geometry(
-            xcb_get_geometry_reply(xcb, xcb_get_geometry(xcb, window), nullptr));
-        const XReply<xcb_get_window_attributes_reply_t> attributes(
-            xcb_get_window_attributes_reply(xcb, xcb_get_window_attributes(xcb, window), nullptr));
-        if (geometry && attributes) {
-            topLevels[window] = {{geometry->x, geometry->y, geometry->width, geometry->height},
-                                 attributes->map_state == XCB_MAP_STATE_VIEWABLE};
-        }
-    }
-}
-
 void EventProbe::sync() const
 {
     const XReply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
@@ -295,7 +276,7 @@ bool EventProbe::readEvents(Clock::time_point deadline, const std::function<bool
 {
     for (;;) {
         while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(xcb)}) {
-            track(*event);
+            topLevels.follow(*event);
             observe(*event, Clock::now());
         }
         if (done()) {
@@ -306,40 +287,6 @@ bool EventProbe::readEvents(Clock::time_point deadline, const std::function<bool
         }
         pollfd descriptor{xcb_get_file_descriptor(xcb), POLLIN, 0};
         poll(&descriptor, 1, 1);
-    }
-}
-
-void EventProbe::track(const xcb_generic_event_t& event)
-{
-    switch (event.response_type & 0x7F) {
-    case XCB_CREATE_NOTIFY: {
-        const auto& created = reinterpret_cast<const xcb_create_notify_event_t&>(event);
-        topLevels[created.window] = {{created.x, created.y, created.width, created.height}, false};
-        break;
-    }
-    case XCB_CONFIGURE_NOTIFY: {
-        const auto& configured = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
-        topLevels[configured.window].frame = {configured.x, configured.y, configured.width, configured.height};
-        break;
-    }
-    case XCB_MAP_NOTIFY:
-        topLevels[reinterpret_cast<const xcb_map_notify_event_t&>(event).window].isVisible = true;
-        break;
-    case XCB_UNMAP_NOTIFY:
-        topLevels[reinterpret_cast<const xcb_unmap_notify_event_t&>(event).window].isVisible = false;
-        break;
-    case XCB_DESTROY_NOTIFY:
-        topLevels.erase(reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
-        break;
-    case XCB_REPARENT_NOTIFY: {
-        const auto& reparented = reinterpret_cast<const xcb_reparent_notify_event_t&>(event);
-        if (reparented.parent != root()) {
-            topLevels.erase(reparented.window);
-        }
-        break;
-    }
-    default:
-        break;
     }
 }
 

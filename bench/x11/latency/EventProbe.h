@@ -11,7 +11,8 @@
 #include <xcb/xcb.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
-#include "latency/Series.h"
+#include "latency/TopLevels.h"
+#include "report/Series.h"
 #include "support/PixelRect.h"
 #include "support/XReply.h"
 #include "support/XServer.h"
@@ -51,12 +52,12 @@ public:
     // the state before a measurement; false when that does not happen.
     bool pressUntilVisible(const Chord& chord, std::size_t windowCount);
 
-    std::size_t visibleCount() const;
+    std::size_t visibleCount() const { return topLevels.visibleCount(); }
 
     // The child of the root that holds the window.
     xcb_window_t topLevelOf(xcb_window_t window) const;
 
-    xtest::PixelRect frameOf(xcb_window_t topLevel) const;
+    xtest::PixelRect frameOf(xcb_window_t topLevel) const { return topLevels.frameOf(topLevel); }
     xcb_window_t activeWindow() const;
 
     // Waits until no event has arrived for a while.
@@ -67,11 +68,10 @@ public:
 
     bool hasSelectionOwner(const std::string& selection) const;
 
+    // Whether a program awaits presses of the key with Super.
+    bool isHotKey(xcb_keysym_t key);
+
 private:
-    struct TopLevel {
-        xtest::PixelRect frame;
-        bool isVisible = false;
-    };
     using Clock = std::chrono::steady_clock;
 
     Clock::time_point press(const Chord& chord);
@@ -79,18 +79,16 @@ private:
     void fakeKey(std::uint8_t type, xcb_keysym_t keysym);
     std::uint8_t codeOf(xcb_keysym_t keysym);
     xcb_atom_t atom(const std::string& name) const;
-    void readTopLevels();
     void sync() const;
 
     // Reads events until `done` holds or time is up, calling `observe` with each; true when it held.
     bool readEvents(Clock::time_point deadline, const std::function<bool()>& done,
                     const std::function<void(const xcb_generic_event_t&, Clock::time_point)>& observe);
-    void track(const xcb_generic_event_t& event);
 
     xcb_connection_t* xcb = nullptr;
     const xcb_screen_t* screen = nullptr;
     std::uint8_t damageEvent = 0;
-    std::map<xcb_window_t, TopLevel> topLevels;
+    TopLevels topLevels;
     std::map<xcb_keysym_t, std::uint8_t> keyCodes;
 };
 

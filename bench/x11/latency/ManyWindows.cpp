@@ -9,14 +9,13 @@
 
 namespace quorvel::bench {
 
-ManyWindows::ManyWindows(BenchDesktop& desktop, std::size_t count)
-    : link(xcb_connect(desktop.display().display().c_str(), nullptr))
+ManyWindows::ManyWindows(const xtest::XServer& server, EventProbe& probe, std::size_t count)
+    : link(xcb_connect(server.display().c_str(), nullptr))
 {
     if (xcb_connection_has_error(link.get()) != 0) {
-        throw xtest::HarnessError("cannot connect to " + desktop.display().display());
+        throw xtest::HarnessError("cannot connect to " + server.display());
     }
     const auto& screen = *xcb_setup_roots_iterator(xcb_get_setup(link.get())).data;
-    auto& probe = desktop.eventProbe();
     const auto wanted = probe.visibleCount() + count;
     for (std::size_t index = 0; index < count; ++index) {
         open(index, screen);

@@ -5,14 +5,15 @@
 
 #include <xcb/xcb.h>
 
-#include "latency/BenchDesktop.h"
+#include "latency/EventProbe.h"
+#include "support/XServer.h"
 
 namespace quorvel::bench {
 
 // Windows of one more program, side by side and on one another, for as long as the object lives.
 class ManyWindows {
 public:
-    ManyWindows(BenchDesktop& desktop, std::size_t count);
+    ManyWindows(const xtest::XServer& server, EventProbe& probe, std::size_t count);
 
 private:
     struct Disconnect {

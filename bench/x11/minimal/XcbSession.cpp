@@ -68,11 +68,21 @@ void XcbSession::grabKey(xcb_keycode_t key, std::uint16_t modifiers) const
     }
 }
 
-void XcbSession::announceReady() const
+void XcbSession::sendToWindowManager(const xcb_client_message_event_t& request) const
 {
-    std::free(xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
-    std::puts("ready");
-    std::fflush(stdout);
+    xcb_send_event(xcb, 0, root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&request));
+}
+
+void XcbSession::answerPresses(const std::function<void(const xcb_key_press_event_t&)>& answer) const
+{
+    xcb_flush(xcb);
+    while (const Reply<xcb_generic_event_t> event{xcb_wait_for_event(xcb)}) {
+        if ((event->response_type & 0x7F) == XCB_KEY_PRESS) {
+            answer(reinterpret_cast<const xcb_key_press_event_t&>(*event));
+            xcb_flush(xcb);
+        }
+    }
 }
 
 } // namespace quorvel::bench

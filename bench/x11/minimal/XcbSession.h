@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include <xcb/xcb.h>
@@ -26,8 +27,11 @@ public:
     // Grabs the key with these modifiers, whatever Caps Lock and Num Lock are.
     void grabKey(xcb_keycode_t key, std::uint16_t modifiers) const;
 
-    // Says on standard output that presses are awaited from now on.
-    void announceReady() const;
+    // Sends the window manager a request about a window.
+    void sendToWindowManager(const xcb_client_message_event_t& request) const;
+
+    // Calls `answer` for each press of a key that is grabbed; returns when the server is gone.
+    void answerPresses(const std::function<void(const xcb_key_press_event_t&)>& answer) const;
 
 private:
     xcb_connection_t* xcb = nullptr;

@@ -4,8 +4,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -80,30 +78,23 @@ void run(bool alpha)
     const auto hotKey = session.keycode(XK_F9);
     const auto escape = session.keycode(XK_Escape);
     session.grabKey(hotKey, XCB_MOD_MASK_4);
-    session.announceReady();
 
     bool shown = false;
-    while (const auto event =
-               std::unique_ptr<xcb_generic_event_t, decltype(&std::free)>(xcb_wait_for_event(xcb), &std::free)) {
-        if ((event->response_type & 0x7F) != XCB_KEY_PRESS) {
-            continue;
-        }
-        const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event.get());
-        if (key->detail == hotKey && !shown) {
+    session.answerPresses([&](const xcb_key_press_event_t& key) {
+        if (key.detail == hotKey && !shown) {
             for (const auto window : windows) {
                 xcb_map_window(xcb, window);
             }
-            xcb_grab_keyboard_unchecked(xcb, 0, session.root(), key->time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+            xcb_grab_keyboard_unchecked(xcb, 0, session.root(), key.time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
             shown = true;
-        } else if (key->detail == escape && shown) {
+        } else if (key.detail == escape && shown) {
             for (const auto window : windows) {
                 xcb_unmap_window(xcb, window);
             }
-            xcb_ungrab_keyboard(xcb, key->time);
+            xcb_ungrab_keyboard(xcb, key.time);
             shown = false;
         }
-        xcb_flush(xcb);
-    }
+    });
 }
 
 } // namespace

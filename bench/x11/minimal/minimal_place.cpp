@@ -44,20 +44,12 @@ std::array<int, 4> frameExtents(const XcbSession& session, xcb_window_t window, 
 void run(xcb_window_t window, const std::array<Frame, 2>& frames)
 {
     const XcbSession session;
-    auto* xcb = session.connection();
     const auto moveResize = session.atom("_NET_MOVERESIZE_WINDOW");
     const auto extentsProperty = session.atom("_NET_FRAME_EXTENTS");
-    const auto hotKey = session.keycode(XK_F10);
-    session.grabKey(hotKey, XCB_MOD_MASK_4);
-    session.announceReady();
+    session.grabKey(session.keycode(XK_F10), XCB_MOD_MASK_4);
 
     std::size_t next = 0;
-    while (const auto event =
-               std::unique_ptr<xcb_generic_event_t, decltype(&std::free)>(xcb_wait_for_event(xcb), &std::free)) {
-        if ((event->response_type & 0x7F) != XCB_KEY_PRESS ||
-            reinterpret_cast<const xcb_key_press_event_t*>(event.get())->detail != hotKey) {
-            continue;
-        }
+    session.answerPresses([&](const xcb_key_press_event_t&) {
         next = 1 - next;
         const auto& frame = frames.at(next);
         const auto [left, right, top, bottom] = frameExtents(session, window, extentsProperty);
@@ -72,11 +64,8 @@ void run(xcb_window_t window, const std::array<Frame, 2>& frames)
         message.data.data32[2] = static_cast<std::uint32_t>(frame.y);
         message.data.data32[3] = static_cast<std::uint32_t>(frame.width - left - right);
         message.data.data32[4] = static_cast<std::uint32_t>(frame.height - top - bottom);
-        xcb_send_event(xcb, 0, session.root(),
-                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                       reinterpret_cast<const char*>(&message));
-        xcb_flush(xcb);
-    }
+        session.sendToWindowManager(message);
+    });
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "latency/Series.h"
+#include "report/Series.h"
 
 #include <algorithm>
 #include <cmath>
