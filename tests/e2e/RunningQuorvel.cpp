@@ -47,7 +47,7 @@ Steps growthSteps(xtest::XClient& client, xcb_window_t window)
 RunningQuorvel::RunningQuorvel(xtest::TestDisplay& display, const std::filesystem::path& executable,
                                const xtest::TemporaryDirectory& configuration,
                                const xtest::ProgramUnderTest::Options& options)
-    : display(display), running(display.server, executable, configuration, options)
+    : display(display), running(display.server, executable, configuration, options), apparentProcess(running.id())
 {
     running.waitForLineStartingWith(lastRegistration);
 }
@@ -79,7 +79,7 @@ void RunningQuorvel::pressSwitcherHotKey()
 std::vector<PixelRect> RunningQuorvel::overlayRects()
 {
     std::vector<PixelRect> rects;
-    for (const xcb_window_t window : display.client.topLevelsOfProcess(running.id())) {
+    for (const xcb_window_t window : display.client.topLevelsOfProcess(apparentProcess)) {
         if (const auto rect = display.client.clientRect(window)) {
             rects.push_back(*rect);
         }

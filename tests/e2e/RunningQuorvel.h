@@ -22,6 +22,9 @@ public:
 
     xtest::ProgramUnderTest& program() { return running; }
 
+    // The process that the server takes for the program, where that is not the program itself.
+    void appearAs(pid_t process) { apparentProcess = process; }
+
     // The combination that shows and hides the overlay: Command-Shift-O.
     static const xtest::KeyCombination& hotKey();
     void pressHotKey();
@@ -58,6 +61,7 @@ private:
 
     xtest::TestDisplay& display;
     xtest::ProgramUnderTest running;
+    pid_t apparentProcess;
 };
 
 } // namespace quorvel::e2e

@@ -31,6 +31,14 @@ const std::array extensions = {
     Extension{&xcb_xfixes_id, "XFIXES"}, Extension{&xcb_input_id, "XInput"},
 };
 
+// Any client can send any event to any window. Only of these kinds some are meant to be sent: messages, and the places
+// that window managers tell of. Nobody may take over what such an event says without asking the server.
+bool isForged(const xcb_generic_event_t& event)
+{
+    const auto type = static_cast<std::uint8_t>(event.response_type & ~sentEventBit);
+    return type != event.response_type && type != XCB_CLIENT_MESSAGE && type != XCB_CONFIGURE_NOTIFY;
+}
+
 std::string failureText(int error, const char* displayName)
 {
     const char* const environment = std::getenv("DISPLAY");
@@ -166,7 +174,12 @@ void Connection::changeEventMask(xcb_window_t window, std::uint32_t mask)
 
 bool Connection::hasQueuedEvent()
 {
-    return !arrived.empty() || receive(xcb_poll_for_queued_event(connection));
+    while (arrived.empty()) {
+        if (!receive(xcb_poll_for_queued_event(connection))) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // Takes the event over; false if there is none.
@@ -175,7 +188,11 @@ bool Connection::receive(xcb_generic_event_t* event)
     if (event == nullptr) {
         return false;
     }
-    arrived.emplace_back(event);
+    Reply<xcb_generic_event_t> received(event);
+    if (isForged(*received)) {
+        return true;
+    }
+    arrived.push_back(std::move(received));
     if (event->response_type != 0) {
         call(arrivalHandlers, *event);
     }
@@ -184,8 +201,10 @@ bool Connection::receive(xcb_generic_event_t* event)
 
 Reply<xcb_generic_event_t> Connection::nextEvent()
 {
-    if (arrived.empty() && !receive(xcb_poll_for_event(connection))) {
-        return nullptr;
+    while (arrived.empty()) {
+        if (!receive(xcb_poll_for_event(connection))) {
+            return nullptr;
+        }
     }
     auto event = std::move(arrived.front());
     arrived.pop_front();

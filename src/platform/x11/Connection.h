@@ -25,7 +25,7 @@ namespace quorvel::x11 {
 //
 // Requests are sent with the plain xcb functions on xcb(); they leave when the loop is about to wait, or at flush().
 // Errors of unchecked requests are reported in one line on standard error each, unless they are of the kinds that a
-// window causes by vanishing (see isExpected()).
+// window causes by vanishing (see isExpected()). Events that other clients have forged are dropped.
 class Connection {
 public:
     using EventHandler = std::function<void(const xcb_generic_event_t&)>;

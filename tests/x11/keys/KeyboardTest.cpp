@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/x11/keys/XcbXkb.h"
+#include "support/ChildProcess.h"
 #include "x11/keys/KeysDisplay.h"
 
 namespace quorvel::x11 {
@@ -40,6 +41,23 @@ TEST_F(KeyboardTest, ASwitchBetweenTwoLayoutsIsFollowed)
     expectCharacters(11, "и");
     switchToLayout(0);
     expectCharacters(11, "b");
+}
+
+TEST_F(KeyboardTest, AKeyPressedRightAfterAMapWasLoadedIsReadByThatMap)
+{
+    const auto code = desktop.codeOf(XKB_KEY_y);
+    std::string typed;
+    const auto watching = desktop.connection->addEventHandler(
+        XCB_KEY_PRESS, [&](const auto&) { typed = desktop.adapters.keyboardLayout.characters(16); });
+    const auto grab = desktop.adapters.hotKeys.registerHotKey(16, hotKeyModifiers::control, {1, 1});
+    ASSERT_EQ(grab.status, osStatus::success);
+    // Nothing is handled before the key comes, too.
+    xtest::ChildProcess load({{"setxkbmap", "de"}, desktop.display.server.clientEnvironment()});
+    ASSERT_EQ(load.waitForEnd(), 0);
+    desktop.display.keyboard.tapCode({xtest::KeyInjector::Modifier::control}, code);
+    desktop.connection->sync();
+    desktop.connection->dispatchEvents();
+    EXPECT_EQ(typed, "z");
 }
 
 TEST_F(KeyboardTest, TheLayoutThatIsOnAtTheStartIsKnown)

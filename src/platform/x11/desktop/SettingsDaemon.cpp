@@ -40,7 +40,7 @@ private:
     void messageArrived(const xcb_client_message_event_t& event)
     {
         if (event.type == daemon.connection.atoms().manager && event.data.data32[1] == daemon.selection) {
-            follow(event.data.data32[2]);
+            follow(daemon.owner()); // not whom the message names: anybody can send it
             changed();
         }
     }

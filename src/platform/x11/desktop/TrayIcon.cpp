@@ -18,6 +18,7 @@ namespace {
 
 constexpr std::uint8_t alphaDepth = 32;
 constexpr int preferredSize = 22;
+constexpr int greatestSize = 256; // of what is painted, however large the tray makes the window
 
 // The property WM_NORMAL_HINTS, of which trays read the least size.
 struct SizeHints {
@@ -81,7 +82,7 @@ void TrayIcon::addHandlers()
     handlers.push_back(connection.addHandler<xcb_configure_notify_event_t>(
         XCB_CONFIGURE_NOTIFY, [this](const xcb_configure_notify_event_t& event) {
             if (isDocked() && event.window == window) {
-                size = {event.width, event.height};
+                size = {std::min<int>(event.width, greatestSize), std::min<int>(event.height, greatestSize)};
                 update();
             }
         }));

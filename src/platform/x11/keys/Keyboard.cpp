@@ -55,6 +55,8 @@ std::expected<void, std::string> Keyboard::start()
     selectEvents();
     subscriptions.push_back(
         connection.addEventHandler(firstEvent, [this](const xcb_generic_event_t& event) { handleXkbEvent(event); }));
+    // Before anybody reads the press by the map of before.
+    subscriptions.push_back(connection.addEventHandler(XCB_KEY_PRESS, [this](const auto&) { catchUp(); }));
     return {};
 }
 
@@ -96,13 +98,19 @@ void Keyboard::handleXkbEvent(const xcb_generic_event_t& event)
 void Keyboard::scheduleReload()
 {
     if (!std::exchange(isReloadScheduled, true)) {
-        mainQueue.async(weakGuard.guard([this] { reload(); }));
+        mainQueue.async(weakGuard.guard([this] { catchUp(); }));
+    }
+}
+
+void Keyboard::catchUp()
+{
+    if (std::exchange(isReloadScheduled, false)) {
+        reload();
     }
 }
 
 void Keyboard::reload()
 {
-    isReloadScheduled = false;
     device = xkb_x11_get_core_keyboard_device_id(connection.xcb());
     auto mapping = device >= 0 ? readMapping() : nullptr;
     if (!mapping) {

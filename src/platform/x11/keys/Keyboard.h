@@ -49,6 +49,7 @@ private:
 
     std::expected<void, std::string> start();
     void selectEvents();
+    void catchUp();
     void reload();
     void scheduleReload();
     std::unique_ptr<KeyMapping> readMapping() const;
