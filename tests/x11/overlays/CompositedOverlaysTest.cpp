@@ -88,6 +88,34 @@ TEST_F(CompositedOverlaysTest, AreCutWhenTheCompositorEnds)
     EXPECT_EQ(pixel(275, 255), 0x1C1C1EU);
 }
 
+TEST_F(CompositedOverlaysTest, BlendAlsoWhereOthersWereClosedThatCouldNot)
+{
+    auto closed = showWindow(somewhere, greenFrame);
+    closed.reset();
+    settle();
+    startCompositor();
+    settle();
+    const auto window = showWindow(somewhere, greenFrame);
+    waitFor("a blended fill", [&] { return isBlended(200, 200); });
+    EXPECT_EQ(depth(shownWindows().at(0)), 32);
+    EXPECT_FALSE(isCut());
+}
+
+TEST_F(CompositedOverlaysTest, BlendInWindowsThatWereClosedBefore)
+{
+    startCompositor();
+    settle();
+    auto closed = showWindow(somewhere, greenFrame);
+    waitFor("a blended fill", [&] { return isBlended(200, 200); });
+    const auto id = shownWindows().at(0);
+    closed.reset();
+    waitFor("the cover", [&] { return pixel(200, 200) == blue; });
+    const auto window = showWindow({600, 120, 400, 300}, greenFrame);
+    waitFor("a blended fill elsewhere", [&] { return isBlended(700, 200); });
+    EXPECT_EQ(shownWindows(), std::vector<xcb_window_t>{id});
+    EXPECT_EQ(pixel(200, 200), blue);
+}
+
 TEST_F(CompositedOverlaysTest, WithTheFocusKeepItWhenACompositorStarts)
 {
     const auto panel = windows.createPanel({.contentRect = flipped(somewhere)}, [](const KeyEvent&) {});

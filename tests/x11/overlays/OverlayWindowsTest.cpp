@@ -115,13 +115,51 @@ TEST_F(OverlayWindowsTest, ReachTheServerAtTheEndOfTheTurn)
     EXPECT_EQ(shownWindows().size(), 1U);
 }
 
-TEST_F(OverlayWindowsTest, AreGoneFromTheServerAfterClosing)
+TEST_F(OverlayWindowsTest, AreNotShownAfterClosing)
 {
     const auto window = showWindow(somewhere, FrameDrawing().of(size));
+    window->close();
+    settle();
+    EXPECT_THAT(shownWindows(), IsEmpty());
+}
+
+TEST_F(OverlayWindowsTest, ThatDoNotIgnoreTheMouseAreGoneFromTheServerAfterClosing)
+{
+    const auto window = windows.createWindow({.contentRect = flipped(somewhere), .ignoresMouseEvents = false});
+    window->orderFrontRegardless();
+    settle();
     const auto id = shownWindows().at(0);
     window->close();
     settle();
     EXPECT_FALSE(display.client.exists(id));
+}
+
+// A compositor shows a window much sooner that it has seen before.
+TEST_F(OverlayWindowsTest, TakeThePlaceOfThoseThatWereClosed)
+{
+    const auto desktop = coverDisplay(0x336699);
+    auto closed = showWindow(somewhere, filledWith(Color::bytes(255, 0, 0), size));
+    const auto id = shownWindows().at(0);
+    closed.reset();
+    settle();
+    constexpr xtest::PixelRect elsewhere{700, 500, 200, 100};
+    const auto other = showWindow(elsewhere, FrameDrawing().of({200.0, 100.0}));
+    EXPECT_THAT(shownWindows(), ElementsAre(id));
+    EXPECT_EQ(display.client.clientRect(id), elsewhere);
+    EXPECT_EQ(pixel(300, 270), 0x336699U);
+    EXPECT_EQ(pixel(700, 500), 0x336699U); // cut anew, at the rounded corner
+    EXPECT_EQ(pixel(800, 500), yellow);
+    EXPECT_THAT(shape(id, XCB_SHAPE_SK_INPUT), IsEmpty());
+}
+
+TEST_F(OverlayWindowsTest, ThatTakeThePlaceOfClosedOnesLieInFront)
+{
+    auto closed = showWindow(somewhere, filledWith(Color::bytes(255, 255, 0), size));
+    const auto below = showWindow(somewhere, filledWith(Color::bytes(0, 0, 255), size));
+    closed.reset();
+    settle();
+    const auto above = showWindow(somewhere, filledWith(Color::bytes(255, 0, 0), size));
+    EXPECT_EQ(pixel(300, 270), red);
 }
 
 TEST_F(OverlayWindowsTest, CanBeShownAgainAfterClosing)

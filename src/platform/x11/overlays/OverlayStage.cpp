@@ -37,6 +37,7 @@ OverlayStage::OverlayStage(Connection& connection, MainQueue& mainQueue, Precede
       painter(layouts),
       pictures(painter),
       compositor(connection, [this] { invalidate(); }),
+      spareWindows(connection),
       exposures(
           connection.addEventHandler(XCB_EXPOSE, [this](const xcb_generic_event_t& event) { handleExpose(event); }))
 {
@@ -45,7 +46,7 @@ OverlayStage::OverlayStage(Connection& connection, MainQueue& mainQueue, Precede
 
 OverlayStage::~OverlayStage()
 {
-    destroyDisposed();
+    takeAwayDisposed();
 }
 
 void OverlayStage::add(OverlaySurface& surface)
@@ -59,19 +60,23 @@ void OverlayStage::remove(OverlaySurface& surface)
     std::erase(scheduled, &surface);
 }
 
-void OverlayStage::dispose(xcb_window_t window, Subscription events)
+void OverlayStage::dispose(const SpareWindows::Window& window, Subscription events, Reuse reuse)
 {
     if (disposed.empty()) {
-        precedence.afterwards(weakGuard.guard([this] { destroyDisposed(); }));
+        precedence.afterwards(weakGuard.guard([this] { takeAwayDisposed(); }));
     }
-    disposed.push_back({window, std::move(events)});
+    disposed.push_back({window, std::move(events), reuse});
 }
 
-void OverlayStage::destroyDisposed()
+void OverlayStage::takeAwayDisposed()
 {
-    for (auto& [window, events] : std::exchange(disposed, {})) {
+    for (auto& [window, events, reuse] : std::exchange(disposed, {})) {
         events.reset();
-        xcb_destroy_window(connection.xcb(), window);
+        if (reuse == Reuse::possible && window.blending == blending()) {
+            spareWindows.keep(window);
+        } else {
+            xcb_destroy_window(connection.xcb(), window.id);
+        }
     }
 }
 
@@ -87,7 +92,7 @@ void OverlayStage::schedule(OverlaySurface& surface)
 
 void OverlayStage::commit()
 {
-    destroyDisposed();
+    takeAwayDisposed();
     for (auto* const surface : scheduled) {
         surface->prepare();
     }
@@ -123,6 +128,7 @@ PaintPlan OverlayStage::plan(const DrawList& content, Size viewSize, PixelSize w
 
 void OverlayStage::invalidate()
 {
+    spareWindows.destroyAll();
     for (auto* const surface : surfaces) {
         surface->invalidate();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include <xcb/xcb.h>
@@ -12,6 +13,7 @@
 #include "platform/x11/overlays/CompositorWatch.h"
 #include "platform/x11/overlays/OverlayGraphics.h"
 #include "platform/x11/overlays/OverlayStacking.h"
+#include "platform/x11/overlays/SpareWindows.h"
 #include "platform/x11/painting/Painter.h"
 #include "platform/x11/painting/PictureCache.h"
 
@@ -39,8 +41,12 @@ public:
     void remove(OverlaySurface& surface);
 
     // Takes a closed window away, after what a person waits for and before anything new is shown. `events` are those
-    // selected on it.
-    void dispose(xcb_window_t window, Subscription events);
+    // selected on it. One that is interchangeable with others may be shown again.
+    enum class Reuse { possible, impossible };
+    void dispose(const SpareWindows::Window& window, Subscription events, Reuse reuse);
+
+    // A window that lets clicks through, lies anywhere and is not shown, if there is one to spare.
+    std::optional<SpareWindows::Window> takeSpareWindow() { return spareWindows.take(blending()); }
 
     // Has the surface commit itself before the main loop waits the next time.
     void schedule(OverlaySurface& surface);
@@ -59,12 +65,13 @@ public:
 
 private:
     struct Disposed {
-        xcb_window_t window;
+        SpareWindows::Window window;
         Subscription events;
+        Reuse reuse;
     };
 
     void commit();
-    void destroyDisposed();
+    void takeAwayDisposed();
     void invalidate();
     void handleExpose(const xcb_generic_event_t& event);
     void warmUp();
@@ -78,6 +85,7 @@ private:
     std::vector<OverlaySurface*> surfaces;
     std::vector<OverlaySurface*> scheduled;
     std::vector<Disposed> disposed;
+    SpareWindows spareWindows;
     Subscription exposures;
     WeakGuard weakGuard;
 };

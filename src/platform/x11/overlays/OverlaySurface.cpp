@@ -65,7 +65,8 @@ void OverlaySurface::giveUpWindow()
 {
     isMapped = false;
     stage.stacking.remove(xWindow);
-    stage.dispose(std::exchange(xWindow, XCB_WINDOW_NONE), std::move(events));
+    stage.dispose({std::exchange(xWindow, XCB_WINDOW_NONE), windowBlending}, std::move(events),
+                  isInterchangeable() ? OverlayStage::Reuse::possible : OverlayStage::Reuse::impossible);
     isCut = false;
     isPlanDue = true;
 }
@@ -131,13 +132,31 @@ OverlayStacking::Age OverlaySurface::place()
     }
     const bool isPlaced = std::exchange(rootRect, target) == target;
     if (xWindow == XCB_WINDOW_NONE) {
-        createWindow();
-        return OverlayStacking::Age::newborn;
+        return obtainWindow();
     }
     if (!isPlaced) {
         stage.graphics.place(xWindow, rootRect);
     }
     return OverlayStacking::Age::old;
+}
+
+bool OverlaySurface::isInterchangeable() const
+{
+    return description.ignoresMouseEvents && ownersEventMask == XCB_EVENT_MASK_NO_EVENT && !isWindowKept;
+}
+
+OverlayStacking::Age OverlaySurface::obtainWindow()
+{
+    const auto spare = isInterchangeable() ? stage.takeSpareWindow() : std::nullopt;
+    if (spare) {
+        xWindow = spare->id;
+        windowBlending = spare->blending;
+        stage.graphics.place(xWindow, rootRect);
+    } else {
+        createWindow();
+    }
+    events = stage.connection.selectEvents(xWindow, XCB_EVENT_MASK_EXPOSURE | ownersEventMask);
+    return spare ? OverlayStacking::Age::old : OverlayStacking::Age::newborn;
 }
 
 void OverlaySurface::createWindow()
@@ -147,7 +166,6 @@ void OverlaySurface::createWindow()
     if (description.ignoresMouseEvents) {
         stage.graphics.ignoreMouse(xWindow);
     }
-    events = stage.connection.selectEvents(xWindow, XCB_EVENT_MASK_EXPOSURE | ownersEventMask);
 }
 
 void OverlaySurface::cutToPlan()

@@ -58,6 +58,8 @@ private:
     Blending blending() const;
     void scheduleIfShown();
     OverlayStacking::Age place();
+    bool isInterchangeable() const;
+    OverlayStacking::Age obtainWindow();
     void createWindow();
     void giveUpWindow();
     void giveUpUnfitWindow();
