@@ -30,6 +30,9 @@ public:
     // The overlay is gone: the window is let go, and keys that come late do nothing.
     void leave() { current.reset(); }
 
+    // Also while a layout without frames shows nothing or the legend alone.
+    bool isShowing() const { return current != nullptr; }
+
     // Puts the window into a frame of a layout on the current screen.
     void placeWindow(const WindowModel& frame, const ScreensModel& screens, WindowElementModel& element) const;
 

@@ -125,7 +125,7 @@ void MainController::handleAction(Action action, const ActionArguments& argument
         showStepped(arguments);
         break;
     case Action::moveResizeFrontmost:
-        if (isLabelling()) {
+        if (isLabelling() || layoutOverlayMode.isShowing()) {
             exitCurrentMode();
         }
         moveResizeMode.toggle();
@@ -138,23 +138,24 @@ void MainController::handleAction(Action action, const ActionArguments& argument
 
 void MainController::toggleOverlay()
 {
-    if (modes.moveResizeElement) {
+    if (isLabelling() && !modes.moveResizeElement) {
         exitCurrentMode();
-        showOverlay(std::nullopt, nullptr);
-    } else if (isLabelling()) {
-        exitCurrentMode();
-    } else {
-        showOverlay(std::nullopt, nullptr);
+        return;
     }
+    if (modes.moveResizeElement || layoutOverlayMode.isShowing()) {
+        exitCurrentMode();
+    }
+    showOverlay(std::nullopt, nullptr);
 }
 
 void MainController::switchFocus()
 {
-    if (modes.moveResizeElement) {
-        exitCurrentMode();
-    } else if (isLabelling()) {
+    if (isLabelling() && !modes.moveResizeElement) {
         exitCurrentMode();
         return;
+    }
+    if (modes.moveResizeElement || layoutOverlayMode.isShowing()) {
+        exitCurrentMode();
     }
     focusSwitcherMode.start();
 }

@@ -67,7 +67,13 @@ TEST_F(MacKeysTest, TheFunctionKeyAsAModifierStays)
     const auto tap = startTap();
 
     EXPECT_EQ(flagsSeen(keyB, functionFlag | eventFlags::option), functionFlag | eventFlags::option);
-    EXPECT_EQ(flagsSeen(keyB, eventFlags::capsLock), eventFlags::capsLock);
+}
+
+TEST_F(MacKeysTest, ALockIsNothingThatAPersonHolds)
+{
+    const auto tap = startTap();
+
+    EXPECT_EQ(flagsSeen(keyB, eventFlags::capsLock | eventFlags::shift), eventFlags::shift);
 }
 
 TEST_F(MacKeysTest, ATapHearsThatItWasDisabledAndCanBeEnabledAgain)

@@ -158,6 +158,33 @@ TEST_F(LayoutOverlayTest, AnIndexOutsideOfTheSelectionShowsTheLegendOnly)
     EXPECT_TRUE(isOverlayGone());
 }
 
+TEST_F(LayoutOverlayTest, TheLegendAloneGoesWhenAnotherModeBegins)
+{
+    launch();
+    controller().layoutsManager().selectLayoutWithID("three_side_by_side");
+    select({"one_full_screen", "centered", "two_side_by_side"});
+    for (const Action action : {Action::moveResizeFrontmost, Action::focusSwitcher}) {
+        show();
+        ASSERT_EQ(shownWindowCount(), 1U);
+        controller().handleAction(action, {});
+        type(keyCodes::escape);
+        EXPECT_TRUE(isOverlayGone());
+    }
+}
+
+TEST_F(LayoutOverlayTest, TheLegendAloneIsShownOnceHoweverOftenItIsAskedFor)
+{
+    launch();
+    controller().layoutsManager().selectLayoutWithID("three_side_by_side");
+    select({"one_full_screen", "centered", "two_side_by_side"});
+    for (int time = 0; time < 3; ++time) {
+        controller().handleAction(Action::activateOverlay, {});
+        EXPECT_EQ(shownWindowCount(), 1U);
+    }
+    type(keyCodes::escape);
+    EXPECT_TRUE(isOverlayGone());
+}
+
 TEST_F(LayoutOverlayTest, AnEmptyLayoutGivesTheKeyboardBackAtALetter)
 {
     select({"unknown"});

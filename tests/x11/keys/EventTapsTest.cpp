@@ -105,8 +105,8 @@ TEST_F(EventTapsTest, KeysOfASmallSetAreDroppedWhateverTheLocks)
     keys.tap({Modifier::control, Modifier::shift}, XKB_KEY_b);
     expectSeen({keyB, keyB});
     EXPECT_EQ(events[0].characters, "B");
-    EXPECT_EQ(events[0].flags, eventFlags::capsLock);
-    EXPECT_EQ(events[1].flags, eventFlags::capsLock | eventFlags::control | eventFlags::shift);
+    EXPECT_EQ(events[0].flags, 0U);
+    EXPECT_EQ(events[1].flags, eventFlags::control | eventFlags::shift);
     desktop.toggleNumLock();
     desktop.toggleCapsLock();
 }

@@ -15,11 +15,11 @@ bool isFunctionKey(NSString* characters)
 
 std::uint64_t heldFlags(NSEvent* event)
 {
-    std::uint64_t own = NSEventModifierFlagNumericPad | NSEventModifierFlagHelp;
+    std::uint64_t others = NSEventModifierFlagNumericPad | NSEventModifierFlagHelp | NSEventModifierFlagCapsLock;
     if (isFunctionKey([event charactersIgnoringModifiers])) {
-        own |= NSEventModifierFlagFunction;
+        others |= NSEventModifierFlagFunction;
     }
-    return [event modifierFlags] & ~own;
+    return [event modifierFlags] & ~others;
 }
 
 } // namespace

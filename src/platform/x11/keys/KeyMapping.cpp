@@ -121,8 +121,10 @@ std::string KeyMapping::characters(xcb_keycode_t keycode, KeyState state) const
 std::uint64_t KeyMapping::flags(KeyState state) const
 {
     const std::pair<KeyState, std::uint64_t> pairs[] = {
-        {capsLockBit, eventFlags::capsLock}, {shiftBit, eventFlags::shift},     {controlBit, eventFlags::control},
-        {optionBit, eventFlags::option},     {commandBit, eventFlags::command},
+        {shiftBit, eventFlags::shift},
+        {controlBit, eventFlags::control},
+        {optionBit, eventFlags::option},
+        {commandBit, eventFlags::command},
     };
     std::uint64_t flags = 0;
     for (const auto& [bit, flag] : pairs) {
