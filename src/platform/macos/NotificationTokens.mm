@@ -4,8 +4,10 @@
 
 namespace quorvel::macos {
 
-Subscription observeNotification(NSNotificationCenter* center, NSString* name,
-                                 std::function<void(NSNotification*)> handler)
+// A block would keep a reference as such, so the handler comes as a copy.
+Subscription
+observeNotification(NSNotificationCenter* center, NSString* name,
+                    std::function<void(NSNotification*)> handler) // NOLINT(performance-unnecessary-value-param)
 {
     @autoreleasepool {
         const id token = [center addObserverForName:name

@@ -1,6 +1,7 @@
 #include "platform/macos/preferences/FormPane.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include "platform/macos/preferences/Grounds.h"
@@ -223,10 +224,10 @@ double FormPane::layOutFoot(double bottom) const
 double FormPane::layOutPreviews(double bottom) const
 {
     const double width = box.size().width - 2.0 * paneMetrics::margin;
-    for (auto index = previews.rbegin(); index != previews.rend(); ++index) {
-        const double height = groups[*index]->height(width);
+    for (const auto index : previews | std::views::reverse) {
+        const double height = groups[index]->height(width);
         bottom -= height;
-        groups[*index]->setFrame(NSMakeRect(paneMetrics::margin, bottom, width, height));
+        groups[index]->setFrame(NSMakeRect(paneMetrics::margin, bottom, width, height));
         bottom -= paneMetrics::partSpacing;
     }
     return bottom;

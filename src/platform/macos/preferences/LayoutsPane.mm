@@ -111,6 +111,7 @@ void LayoutsPane::showSelected(const LayoutsPaneContent& content)
 {
     digitFields.clear();
     std::vector<LayoutTable::Row> rows;
+    rows.reserve(content.selected.size());
     for (const auto& row : content.selected) {
         rows.push_back({createSelectedView(row, content), row.height, false, row.cell.name});
     }

@@ -1,6 +1,7 @@
 #include "platform/macos/preferences/ListSheetRowView.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "platform/macos/Strings.h"
 #include "platform/macos/preferences/Grounds.h"
@@ -44,10 +45,10 @@ void ListSheetRowView::setFrame(const NSRect& frame) const
     const NSSize size = frame.size;
     [card.get() setFrame:NSMakeRect(0.0, 0.0, size.width, size.height)];
     double right = size.width - paneMetrics::cardMargin;
-    for (auto button = buttons.rbegin(); button != buttons.rend(); ++button) {
-        const NSSize each = [(*button)->view() frame].size;
+    for (const auto& button : buttons | std::views::reverse) {
+        const NSSize each = [button->view() frame].size;
         right -= each.width;
-        [(*button)->view() setFrameOrigin:NSMakePoint(right, (size.height - each.height) / 2.0)];
+        [button->view() setFrameOrigin:NSMakePoint(right, (size.height - each.height) / 2.0)];
         right -= paneMetrics::partSpacing;
     }
     const double width = std::max(0.0, right - paneMetrics::cardMargin);
