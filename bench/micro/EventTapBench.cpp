@@ -1,6 +1,5 @@
 // The decision that every key press of the session waits for.
 #include <optional>
-#include <set>
 #include <utility>
 
 #include <benchmark/benchmark.h>
@@ -17,7 +16,7 @@ public:
     void addSourceToRunLoop() override {}
     void removeSourceFromRunLoop() override {}
     void setEnabled(bool) override {}
-    bool setKeysOfInterest(const std::set<KeyCode>&) override { return true; }
+    bool setKeysOfInterest(const KeyCodeSet&) override { return true; }
 };
 
 // Keeps the callback for the benchmark to call, as the system would.
@@ -44,7 +43,7 @@ private:
     KeyCode code;
 };
 
-void decide(benchmark::State& state, const std::set<KeyCode>& blocked, KeyCode pressed)
+void decide(benchmark::State& state, const KeyCodeSet& blocked, KeyCode pressed)
 {
     SimulatedDesktop desktop;
     CapturingTaps taps;

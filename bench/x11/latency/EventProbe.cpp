@@ -21,7 +21,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto patience = 3s;      // of a measurement; what takes longer counts as missed
+constexpr auto patience = 10s;     // of a measurement; what takes longer counts as missed
+constexpr auto longPatience = 60s; // of what has to happen before there can be a measurement
 constexpr auto quiet = 60ms;       // without painting in the new windows, they are painted
 constexpr auto holdTime = 20ms;    // how long a finger stays on a key
 constexpr auto modifierLead = 3ms; // between the modifiers and the key
@@ -142,8 +143,8 @@ bool EventProbe::pressUntilVisible(const Chord& chord, std::size_t windowCount)
 {
     press(chord);
     release(chord);
-    const bool done =
-        readEvents(Clock::now() + patience, [&] { return visibleCount() <= windowCount; }, [](const auto&, auto) {});
+    const bool done = readEvents(
+        Clock::now() + longPatience, [&] { return visibleCount() <= windowCount; }, [](const auto&, auto) {});
     rest();
     return done;
 }
@@ -173,7 +174,7 @@ void EventProbe::rest()
 
 bool EventProbe::waitFor(const std::function<bool()>& condition)
 {
-    const auto deadline = Clock::now() + 10 * patience;
+    const auto deadline = Clock::now() + longPatience;
     while (!condition()) {
         if (Clock::now() > deadline) {
             return false;

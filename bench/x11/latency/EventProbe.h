@@ -63,7 +63,7 @@ public:
     // Waits until no event has arrived for a while.
     void rest();
 
-    // Waits until the condition, asked again and again, holds; false after some seconds.
+    // Waits until the condition, asked again and again, holds; false after a minute.
     bool waitFor(const std::function<bool()>& condition);
 
     bool hasSelectionOwner(const std::string& selection) const;
