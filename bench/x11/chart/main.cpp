@@ -1,8 +1,9 @@
 // Makes a table and pictures of what was measured.
 //
-//   speed_report FILE FOLDER
+//   speed_report FILE... FOLDER
 //
-// FILE is what `latency --json FILE` wrote; FOLDER gets speed.md, speed-light.svg and speed-dark.svg.
+// Each FILE is what `latency --json FILE` wrote, of the same tasks under other conditions where there are several;
+// FOLDER gets speed.md, speed-light.svg and speed-dark.svg.
 
 #include <cstdio>
 #include <exception>
@@ -11,6 +12,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -46,12 +48,16 @@ void writeReport(const Results& results, const std::filesystem::path& folder)
 
 int main(int argumentCount, char** arguments)
 {
-    if (argumentCount != 3) {
-        std::fputs("usage: speed_report FILE FOLDER\n", stderr);
+    if (argumentCount < 3) {
+        std::fputs("usage: speed_report FILE... FOLDER\n", stderr);
         return 2;
     }
     try {
-        quorvel::bench::writeReport(quorvel::bench::readResults(arguments[1]), arguments[2]);
+        std::vector<quorvel::bench::Results> runs;
+        for (int index = 1; index < argumentCount - 1; ++index) {
+            runs.push_back(quorvel::bench::readResults(arguments[index]));
+        }
+        quorvel::bench::writeReport(quorvel::bench::combined(runs), arguments[argumentCount - 1]);
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "speed_report: %s\n", error.what());

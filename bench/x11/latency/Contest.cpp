@@ -48,7 +48,7 @@ std::vector<Row> rowsOf(const Task& task)
     std::vector<Row> rows;
     for (const auto& entry : task.entries) {
         auto& row = rows.emplace_back(Row{.name = entry.name, .role = entry.role});
-        row.cells.fill({{}, "not measured"});
+        row.cells.fill({{}, Cell::notMeasured});
     }
     return rows;
 }

@@ -18,6 +18,8 @@ enum class Role {
 
 // What one contestant took under one condition, or why that is not known.
 struct Cell {
+    static constexpr auto notMeasured = "not measured";
+
     Series series{};
     std::string absent{}; // such as "rofi is not installed"
 
@@ -78,6 +80,10 @@ std::optional<double> ratioToFirst(const TaskResult& task, const Row& row, const
 
 // Holds the rows to the rules; rules on what was not measured are passed over.
 std::vector<Budget> checkedBudgets(const std::vector<BudgetRule>& rules, const std::vector<Row>& rows);
+
+// What was measured in several runs of the same tasks, each under other conditions: the first one with what it lacks
+// from the others. Throws std::invalid_argument for other tasks or contestants.
+Results combined(const std::vector<Results>& runs);
 
 bool allBudgetsMet(const Results& results);
 

@@ -1,5 +1,7 @@
 #include "report/Results.h"
 
+#include <stdexcept>
+
 #include <gtest/gtest.h>
 
 #include "tests/unit/bench/SampleResults.h"
@@ -53,6 +55,33 @@ TEST(Results, ABudgetOnWhatWasNotMeasuredIsPassedOver)
     const auto rows = sampleTask().rows;
     EXPECT_TRUE(checkedBudgets({{"at most 9 ms", 9.0, 0, {}, loadedComposited}}, rows).empty());
     EXPECT_TRUE(checkedBudgets({{"half of wmctrl's", 0.5, 0, 1, loaded}}, rows).empty());
+}
+
+TEST(Results, RunsUnderOtherConditionsAreCombined)
+{
+    const Results whole{.runs = 3, .tasks = {sampleTask()}};
+    auto first = whole;
+    auto second = whole;
+    for (std::size_t row = 0; row < 2; ++row) {
+        first.tasks[0].rows[row].under(loaded) = {{}, Cell::notMeasured};
+        second.tasks[0].rows[row].under(idle) = {{}, Cell::notMeasured};
+    }
+    second.tasks[0].budgets = {{"another one", 2.0, 1.0}};
+    const auto all = combined({first, second});
+    EXPECT_EQ(all.tasks[0].rows, whole.tasks[0].rows);
+    EXPECT_EQ(all.tasks[0].budgets.size(), whole.tasks[0].budgets.size() + 1);
+}
+
+TEST(Results, RunsOfOtherTasksOrContestantsAreNotCombined)
+{
+    const Results run{.tasks = {sampleTask()}};
+    auto otherTask = run;
+    otherTask.tasks[0].title = "another task";
+    auto otherContestant = run;
+    otherContestant.tasks[0].rows[1].name = "another tool";
+    EXPECT_THROW(combined({run, otherTask}), std::invalid_argument);
+    EXPECT_THROW(combined({run, otherContestant}), std::invalid_argument);
+    EXPECT_THROW(combined({run, Results{}}), std::invalid_argument);
 }
 
 TEST(Results, OneBudgetThatIsNotMetIsEnough)
