@@ -98,8 +98,7 @@ void FormPane::fitPreview()
         const auto* const content = area->widget();
         const int wanted =
             content->hasHeightForWidth() ? content->heightForWidth(width()) : content->sizeHint().height();
-        const int others = body->sizeHint().height() - area->sizeHint().height() - preview->sizeHint().height();
-        preview->fitInto(height() - others - wanted);
+        preview->fitInto(height() - aroundPreview - wanted);
     }
 }
 
@@ -136,8 +135,12 @@ void FormPane::build(const Form& form)
     }
     box->addWidget(createFoot(form));
     layout()->addWidget(body);
-    body->show();
     showForm(form); // which enables what may have the keyboard
+    if (preview != nullptr) {
+        // Later the layouts would remember another size of the preview than the one that it has got in the meantime.
+        aroundPreview = body->sizeHint().height() - area->sizeHint().height() - preview->sizeHint().height();
+    }
+    body->show();
     if (auto* const control = focus.restore(focusRows(form))) {
         QTimer::singleShot(0, control, [this, control] { area->ensureWidgetVisible(control); });
     }

@@ -61,6 +61,7 @@ private:
     QWidget* body = nullptr;
     QScrollArea* area = nullptr;
     PreviewWidget* preview = nullptr; // null where the form has none
+    int aroundPreview = 0;            // the height of all that neither scrolls nor is the preview
     std::map<std::string, RowWidgets> rows;
     std::vector<QAbstractButton*> buttons;
     QPointer<ListSheetDialog> sheet;
