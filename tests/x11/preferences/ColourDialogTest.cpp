@@ -72,6 +72,17 @@ TEST_F(ColourDialog, ALookIntoItStoresNothing)
     });
 }
 
+TEST_F(ColourDialog, AcceptingTheColourThatIsShownStoresItWithItsAlpha)
+{
+    changeFromOutside("textColor", {std::string("#FFFF00")});
+    inPane("Layout Appearance", [&] {
+        openColorDialog("Text, Text color");
+        person.tap(XKB_KEY_Return);
+        person.waitForWindow("Preferences");
+        waitUntilStored("textColor", {std::string("#FFFF00FF")});
+    });
+}
+
 TEST_F(ColourDialog, WhatWasStoredBeforeComesBackWhenItIsCancelled)
 {
     const PropertyValue before{std::string("#FFFF00")};

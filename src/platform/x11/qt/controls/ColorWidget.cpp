@@ -123,6 +123,8 @@ void ColorWidget::openDialog()
         button->setIcon({}); // as everywhere else in these windows
     }
     connect(dialog, &QColorDialog::currentColorChanged, this, [this](const QColor& chosen) { choose(chosen); });
+    // Qt announces changes only, but whoever accepts the colour that is shown wants that one stored.
+    connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor& chosen) { choose(chosen); });
     connect(dialog, &QColorDialog::rejected, this, [this] { takeBack(); });
     dialog->show();
 }
