@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "e2e/ProgramTest.h"
+#include "e2e/TitledWindows.h"
 #include "e2e/TrayMenu.h"
 
 namespace quorvel::e2e {
@@ -28,51 +29,17 @@ protected:
         start({.environment = {{"QUORVEL_UPDATE_FEED", "http://127.0.0.1:9/"}}});
     }
 
-    std::vector<xcb_window_t> windowsTitled(const std::string& title)
-    {
-        auto windows = display.client.managedWindows();
-        std::erase_if(windows, [&](xcb_window_t window) {
-            return display.client.textProperty(window, "_NET_WM_NAME") != title || !display.client.isViewable(window);
-        });
-        return windows;
-    }
-
-    // Waits until the one window of that title has the keyboard.
-    xcb_window_t waitForWindow(const std::string& title)
-    {
-        display.client.waitFor("the window \"" + title + "\"", [&] {
-            const auto windows = windowsTitled(title);
-            return windows.size() == 1 && display.client.activeWindow() == windows.front() &&
-                   focusedWindow() == windows.front();
-        });
-        return windowsTitled(title).front();
-    }
-
-    xcb_window_t focusedWindow()
-    {
-        auto* const link = display.client.connection();
-        const xtest::XReply<xcb_get_input_focus_reply_t> focus(
-            xcb_get_input_focus_reply(link, xcb_get_input_focus(link), nullptr));
-        return focus ? focus->focus : XCB_NONE;
-    }
-
     xcb_window_t openPreferences()
     {
         menu->choose(TrayMenu::Entry::preferences, *quorvel);
-        return waitForWindow("Preferences");
+        ++openings;
+        return titled.waitUntilActive("Preferences");
     }
 
-    void waitUntilClosed(const std::string& title)
-    {
-        display.client.waitFor("\"" + title + "\" to close", [&] { return windowsTitled(title).empty(); });
-    }
-
-    // The closing of the preferences is announced twice, and each time all hot keys come back.
     void waitUntilResumed()
     {
-        waitUntilClosed("Preferences");
-        quorvel->program().waitForLine("Preferences window will close; resuming shortcuts");
-        quorvel->program().waitForLine("Preferences close notification received; resuming shortcuts");
+        titled.waitUntilClosed("Preferences");
+        quorvel->waitUntilHotKeysResume(openings);
     }
 
     // Whether a library of that name is in the program's memory.
@@ -96,11 +63,12 @@ protected:
         quorvel->waitUntilIdle();
     }
 
-    // What the tray leaves.
+    // What the tray leaves; the display goes on beside the screen.
     PixelRect workArea()
     {
-        const auto area = display.client.property(display.client.root(), "_NET_WORKAREA");
-        return {static_cast<int>(area.at(0)), static_cast<int>(area.at(1)), screen.width, static_cast<int>(area.at(3))};
+        auto area = display.client.workArea();
+        area.width = screen.width;
+        return area;
     }
 
     std::string storedSettings() const
@@ -111,6 +79,8 @@ protected:
     }
 
     std::optional<TrayMenu> menu;
+    TitledWindows titled{display};
+    int openings = 0;
 };
 
 TEST_F(PreferencesJourney, QtIsLoadedByTheFirstWindowAndNotBefore)
@@ -149,7 +119,7 @@ TEST_F(PreferencesJourney, TheProgramMayEndWithItsWindowsOpen)
 {
     openPreferences();
     menu->choose(TrayMenu::Entry::about, *quorvel);
-    waitForWindow("About Quorvel");
+    titled.waitUntilActive("About Quorvel");
     endCleanly();
 }
 
@@ -164,7 +134,7 @@ TEST_F(PreferencesJourney, AServerThatGoesAwayEndsTheProgramWithALine)
 TEST_F(PreferencesJourney, AServerThatGoesAwayUnderAnAlertEndsTheProgramWithALine)
 {
     menu->choose(TrayMenu::Entry::checkForUpdates, *quorvel); // nobody answers there
-    waitForWindow("Quorvel");
+    titled.waitUntilActive("Quorvel");
     display.server.kill();
     EXPECT_EQ(quorvel->program().waitForEnd(), 1);
     EXPECT_THAT(quorvel->program().errorLines(), ElementsAre(HasSubstr("X server")));
@@ -179,7 +149,7 @@ TEST_F(PreferencesJourney, ThePreferencesAreOneWindowThatComesBackToTheFront)
     display.keyboard.tap(XKB_KEY_Escape);
     waitUntilResumed();
     const auto second = openPreferences();
-    EXPECT_EQ(windowsTitled("Preferences"), std::vector{second});
+    EXPECT_EQ(titled.with("Preferences"), std::vector{second});
     display.keyboard.tap(XKB_KEY_Escape);
     waitUntilResumed();
     expectHotKeyWorks();
@@ -212,10 +182,10 @@ TEST_F(PreferencesJourney, TheAboutWindowOpensFromTheTrayAndClosesByTheKeyboard)
 {
     for (const bool byEscape : {true, false}) {
         menu->choose(TrayMenu::Entry::about, *quorvel);
-        waitForWindow("About Quorvel");
+        titled.waitUntilActive("About Quorvel");
         display.keyboard.tap(byEscape ? std::vector<Modifier>{} : std::vector{Modifier::control},
                              byEscape ? XKB_KEY_Escape : XKB_KEY_w);
-        waitUntilClosed("About Quorvel");
+        titled.waitUntilClosed("About Quorvel");
     }
     expectHotKeyWorks(); // it has not paused them
     endCleanly();

@@ -13,7 +13,9 @@ namespace {
 
 using xtest::PixelRect;
 
-// The last of the three hot keys that every start registers.
+constexpr int hotKeyCount = 3;
+
+// The last of the hot keys that every start registers.
 constexpr auto lastRegistration = "Registered hotkey id=3 ";
 
 bool within(int value, int expected, int tolerance)
@@ -144,6 +146,17 @@ void RunningQuorvel::waitUntilIdle()
 {
     waitForNoOverlay();
     display.grabs.waitUntilKeyboardIsFree();
+}
+
+void RunningQuorvel::waitUntilHotKeysResume(int openings)
+{
+    for (int announcement = 0; announcement < 2 * openings; ++announcement) {
+        running.waitForLine("the return of the hot keys",
+                            [](std::string_view line) { return line.ends_with("; resuming shortcuts"); });
+    }
+    for (int hotKey = 0; hotKey < hotKeyCount; ++hotKey) {
+        running.waitForLineStartingWith("Registered hotkey id=");
+    }
 }
 
 int RunningQuorvel::end(int signal)

@@ -50,6 +50,10 @@ public:
     // Waits until nothing of the overlay is left and another program could take the keyboard.
     void waitUntilIdle();
 
+    // Waits until the closing of the preferences has brought the hot keys back for the last time: it is announced twice
+    // to each opening so far, and all hot keys come back each time.
+    void waitUntilHotKeysResume(int openings);
+
     // Ends the program by the signal; afterwards the display must be as if it had never run. Returns the exit status.
     int end(int signal = SIGTERM);
 

@@ -344,6 +344,23 @@ bool XClient::hasState(xcb_window_t window, const std::string& state)
     return std::ranges::count(property(window, "_NET_WM_STATE"), atom(state)) > 0;
 }
 
+PixelRect XClient::workArea()
+{
+    const auto values = property(root(), "_NET_WORKAREA");
+    if (values.size() < 4) {
+        throw HarnessError("the window manager tells of no work area");
+    }
+    return {static_cast<int>(values[0]), static_cast<int>(values[1]), static_cast<int>(values[2]),
+            static_cast<int>(values[3])};
+}
+
+xcb_window_t XClient::focusedWindow()
+{
+    const XReply<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(link.get(), xcb_get_input_focus(link.get()), nullptr));
+    return focus ? focus->focus : XCB_NONE;
+}
+
 pid_t XClient::processOf(xcb_window_t window)
 {
     const xcb_res_client_id_spec_t spec{.client = window, .mask = XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};

@@ -99,6 +99,10 @@ public:
     void activate(xcb_window_t window);
     bool hasState(xcb_window_t window, const std::string& state);
 
+    // What panels leave of the root, as the window manager tells of the first desktop.
+    PixelRect workArea();
+    xcb_window_t focusedWindow();
+
     // The process that made the window, as the server knows it; 0 when unknown.
     pid_t processOf(xcb_window_t window);
 

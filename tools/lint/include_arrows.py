@@ -16,7 +16,7 @@ TEST_LIBRARIES = re.compile(r"(gtest|gmock|benchmark)/")
 STANDARD_HEADER = re.compile(r"[a-z_]+$")
 
 # Tests and benchmarks that run on a real platform.
-PLATFORM_FOLDERS = re.compile(r"(src/main|src/platform/[a-z0-9]+|(tests|bench)/((unit|contract|fuzz)/)?(support|x11|e2e|macos))/")
+PLATFORM_FOLDERS = re.compile(r"(src/main|src/platform/[a-z0-9]+|(tests|bench)/((unit|contract|fuzz)/)?(support|x11|e2e|soak|macos))/")
 PLATFORM_MACRO = re.compile(r"\b(__APPLE__|__linux__|__unix__|_WIN32|Q_OS_[A-Z]+)\b")
 
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+(?:"([^"]+)"|<([^>]+)>)')
