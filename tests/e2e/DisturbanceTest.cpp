@@ -1,4 +1,4 @@
-#include "e2e/ProgramTest.h"
+#include "e2e/ModesTest.h"
 #include "support/ReliabilityRecord.h"
 
 namespace quorvel::e2e {
@@ -8,7 +8,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class DisturbanceReliability : public ProgramTest {};
+class DisturbanceReliability : public ModesTest {};
 
 TEST_F(DisturbanceReliability, AWindowThatClosesBeforeTheLetterIsForgotten)
 {

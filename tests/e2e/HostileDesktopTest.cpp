@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "e2e/ModesTest.h"
+#include "e2e/OutputsTest.h"
 #include "support/ReliabilityRecord.h"
 
 namespace quorvel::e2e {
@@ -43,6 +43,24 @@ TEST_P(HostileDesktopReliability, TheWindowManagerIsKilledAndReplaced)
         workAnew(GetParam());
         record.survived("“Window manager is gone; windows may stay where they are”");
     }
+    endCleanly();
+}
+
+TEST_P(HostileDesktopReliability, TheKeyComesWhileThereIsNoWindowManager)
+{
+    ReliabilityRecord record(desktop, during("the window manager is gone when the key comes,", GetParam()));
+    start();
+    const auto window = openWindow();
+    enter(GetParam(), window->id());
+    record.tried();
+    display.windowManager().stop();
+    quorvel->program().waitForLine("Window manager is gone; windows may stay where they are");
+    display.keyboard.tap(GetParam() == Mode::moveResize ? XKB_KEY_Right : XKB_KEY_a);
+    leave();
+    display.windowManager().restart();
+    quorvel->program().waitForLine("Window manager has started");
+    workAnew(GetParam());
+    record.survived("“Window manager is gone; windows may stay where they are”");
     endCleanly();
 }
 
@@ -98,6 +116,36 @@ TEST_P(HostileDesktopReliability, TheProgramItselfIsKilled)
 }
 
 INSTANTIATE_TEST_SUITE_P(In, HostileDesktopReliability, testing::ValuesIn(allModes),
+                         [](const auto& parameter) { return nameOf(parameter.param); });
+
+// Monitors with outputs of their own: with them the root itself grows and shrinks under what is shown.
+class HostileOutputsReliability : public OutputsTest, public testing::WithParamInterface<Mode> {};
+
+TEST_P(HostileOutputsReliability, AreUnpluggedAndPlugged)
+{
+    ReliabilityRecord record(desktop, during("outputs are unplugged and plugged", GetParam()));
+    const xtest::Monitor first{"left", screen, xtest::MonitorRole::primary};
+    const xtest::Monitor second{"right", secondScreen, xtest::MonitorRole::secondary};
+    display.arrange({first, second});
+    display.startWindowManager(xtest::WindowManager::openbox);
+    start();
+    const auto window = openWindow();
+    for (int round = 0; round < 3; ++round) {
+        record.tried();
+        enter(GetParam(), window->id());
+        display.arrange({first});
+        display.arrange({first, second});
+        display.arrange({first});
+        leave();
+        display.client.activate(window->id());
+        work(GetParam(), window->id());
+        display.arrange({first, second});
+        record.survived("");
+    }
+    endCleanly();
+}
+
+INSTANTIATE_TEST_SUITE_P(In, HostileOutputsReliability, testing::ValuesIn(allModes),
                          [](const auto& parameter) { return nameOf(parameter.param); });
 
 } // namespace

@@ -22,6 +22,11 @@ std::string nameOf(Mode mode)
     throw xtest::HarnessError("unknown mode");
 }
 
+void ModesTest::TearDown()
+{
+    EXPECT_EQ(storedSettings(), settingsAtStart());
+}
+
 void ModesTest::enter(Mode mode, xcb_window_t window)
 {
     switch (mode) {
@@ -72,6 +77,14 @@ void ModesTest::workAnew(Mode mode)
 {
     const auto window = openWindow({260, 220, 500, 350});
     work(mode, window->id());
+}
+
+std::vector<std::string> ModesTest::newLines()
+{
+    const auto& all = quorvel->program().outputLines();
+    std::vector<std::string> lines(all.begin() + static_cast<std::ptrdiff_t>(told), all.end());
+    told = all.size();
+    return lines;
 }
 
 std::ptrdiff_t ModesTest::linesOf(const std::string& line)

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "e2e/ProgramTest.h"
+#include "e2e/ModesTest.h"
 
 namespace quorvel::e2e {
 
 // The program on a display whose monitors are outputs of their own, as on a real machine.
-class OutputsTest : public ProgramTest {
+class OutputsTest : public ModesTest {
 protected:
-    OutputsTest() : ProgramTest({.kind = isPossible() ? kind : xtest::XServer::Kind::virtualOutput}) {}
+    OutputsTest() : ModesTest({.kind = isPossible() ? kind : xtest::XServer::Kind::virtualOutput}) {}
 
     void SetUp() override
     {

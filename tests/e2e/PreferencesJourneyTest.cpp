@@ -1,7 +1,4 @@
-#include <filesystem>
-#include <fstream>
 #include <optional>
-#include <sstream>
 
 #include "e2e/ProgramTest.h"
 #include "e2e/TitledWindows.h"
@@ -45,11 +42,9 @@ protected:
     // Whether a library of that name is in the program's memory.
     bool hasLoaded(const std::string& library)
     {
-        std::ifstream maps("/proc/" + std::to_string(quorvel->program().id()) + "/maps");
-        std::ostringstream text;
-        text << maps.rdbuf();
-        EXPECT_THAT(text.str(), HasSubstr("/quorvel"));
-        return text.str().find(library) != std::string::npos;
+        const auto maps = xtest::contentOf("/proc/" + std::to_string(quorvel->program().id()) + "/maps");
+        EXPECT_THAT(maps, HasSubstr("/quorvel"));
+        return maps.find(library) != std::string::npos;
     }
 
     // The hot key shows the frames, and a letter puts the window into one.
@@ -69,13 +64,6 @@ protected:
         auto area = display.client.workArea();
         area.width = screen.width;
         return area;
-    }
-
-    std::string storedSettings() const
-    {
-        std::ostringstream text;
-        text << std::ifstream(configuration.path() / "quorvel/settings.plist").rdbuf();
-        return text.str();
     }
 
     std::optional<TrayMenu> menu;
@@ -112,6 +100,25 @@ TEST_F(PreferencesJourney, HotKeysRestWhileThePreferencesAreOpenAndComeBackByEve
         waitUntilResumed();
         expectHotKeyWorks();
     }
+    endCleanly();
+}
+
+// As input methods do for the keys that they give back.
+TEST_F(PreferencesJourney, KeysThatAnotherProgramSendsAreHeardAsInAnyWindow)
+{
+    const auto window = openPreferences();
+    xcb_key_press_event_t event{};
+    event.detail = display.keyboard.codeOf(XKB_KEY_Escape);
+    event.root = display.client.root();
+    event.event = window;
+    event.same_screen = 1;
+    for (const std::uint8_t type : {XCB_KEY_PRESS, XCB_KEY_RELEASE}) {
+        event.response_type = type;
+        xcb_send_event(display.client.connection(), 0, window, XCB_EVENT_MASK_NO_EVENT,
+                       reinterpret_cast<const char*>(&event));
+    }
+    xcb_flush(display.client.connection());
+    waitUntilResumed();
     endCleanly();
 }
 

@@ -3,10 +3,11 @@
 #include <fstream>
 #include <set>
 #include <sstream>
+#include <utility>
 
 #include <fmt/format.h>
 
-#include "e2e/ModesTest.h"
+#include "e2e/InterposedTest.h"
 #include "support/WebServer.h"
 
 namespace quorvel::e2e {
@@ -23,15 +24,6 @@ using testing::StartsWith;
 // What the program tells others: in its log, and over the network.
 class Privacy : public ModesTest {
 protected:
-    // What has been printed since the last call.
-    std::vector<std::string> newLines()
-    {
-        const auto& all = quorvel->program().outputLines();
-        std::vector<std::string> lines(all.begin() + static_cast<std::ptrdiff_t>(told), all.end());
-        told = all.size();
-        return lines;
-    }
-
     std::vector<std::string> newLinesWith(const std::string& text)
     {
         auto lines = newLines();
@@ -77,8 +69,6 @@ protected:
         }
         return found;
     }
-
-    std::size_t told = 0;
 };
 
 TEST_F(Privacy, WhatIsTypedOutsideOfTheModesIsNotLogged)
@@ -95,6 +85,50 @@ TEST_F(Privacy, WhatIsTypedOutsideOfTheModesIsNotLogged)
     EXPECT_EQ(newLines().front(), "Activate overlay shortcut fired");
     display.keyboard.tap(XKB_KEY_Escape);
     quorvel->waitUntilIdle();
+    endCleanly();
+}
+
+// What the server tells the program.
+class PrivacyOfTheKeyboard : public InterposedTest {
+protected:
+    PrivacyOfTheKeyboard()
+    {
+        interposer.observeEvents([this](xtest::Interposer::Event event) {
+            const auto type = event[0] & 0x7FU;
+            if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE || type == XCB_GE_GENERIC) {
+                heard.push_back(type == XCB_GE_GENERIC ? 0 : event[1]);
+            }
+        });
+    }
+
+    // The codes of the keys, 0 for an event of an extension, since the last call.
+    std::vector<int> newlyHeard()
+    {
+        settle();
+        return std::exchange(heard, {});
+    }
+
+private:
+    std::vector<int> heard;
+};
+
+TEST_F(PrivacyOfTheKeyboard, OfWhatIsTypedForOthersTheServerSendsNothing)
+{
+    startInterposed();
+    const auto window = openWindow();
+    newlyHeard();
+    for (const xcb_keysym_t key : {XKB_KEY_s, XKB_KEY_e, XKB_KEY_c, XKB_KEY_r, XKB_KEY_t}) {
+        display.keyboard.tap(key);
+    }
+    window->waitForPress(display.keyboard.codeOf(XKB_KEY_t));
+    EXPECT_THAT(newlyHeard(), IsEmpty());
+
+    enter(Mode::moveResize, window->id());
+    EXPECT_THAT(newlyHeard(), testing::Contains(display.keyboard.codeOf(XKB_KEY_r))); // the hot key's
+    display.keyboard.tap(XKB_KEY_k);
+    window->waitForPress(display.keyboard.codeOf(XKB_KEY_k));
+    EXPECT_THAT(newlyHeard(), IsEmpty());
+    leave();
     endCleanly();
 }
 

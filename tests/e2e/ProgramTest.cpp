@@ -18,6 +18,9 @@ ProgramTest::ProgramTest() : ProgramTest({.width = 3200, .height = 1080})
 RunningQuorvel& ProgramTest::start(const xtest::ProgramUnderTest::Options& options)
 {
     quorvel = std::make_unique<RunningQuorvel>(display, QUORVEL_PROGRAM, configuration, options);
+    if (firstSettings.empty()) {
+        firstSettings = storedSettings();
+    }
     return *quorvel;
 }
 

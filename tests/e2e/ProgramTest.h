@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -7,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include "e2e/RunningQuorvel.h"
+#include "support/FileContent.h"
 #include "support/StrutPanel.h"
 #include "support/TemporaryDirectory.h"
 #include "support/TestDisplay.h"
@@ -48,9 +50,18 @@ protected:
     // A settings file with this inside its dictionary.
     void writeSettings(std::string_view entries);
 
+    std::filesystem::path settingsFile() const { return configuration.path() / "quorvel/settings.plist"; }
+    std::string storedSettings() const { return xtest::contentOf(settingsFile()); }
+
+    // What the first start found or stored; empty before it.
+    const std::string& settingsAtStart() const { return firstSettings; }
+
     xtest::TestDisplay display;
     xtest::TemporaryDirectory configuration;
     std::unique_ptr<RunningQuorvel> quorvel;
+
+private:
+    std::string firstSettings;
 };
 
 } // namespace quorvel::e2e

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "e2e/ModesTest.h"
@@ -64,6 +66,8 @@ TEST_F(RivalReliability, HotKeysOfAnotherProgramAreReportedEachAndTheOthersWork)
         xtest::ProgramUnderTest program(display.server, QUORVEL_PROGRAM, configuration);
         program.waitForLine("Failed to register hotkey with status: -9878");
         EXPECT_EQ(program.end(), 0);
+        EXPECT_EQ(std::ranges::count(program.outputLines(), "Failed to register hotkey with status: -9878"), 1);
+        EXPECT_THAT(program.errorLines(), testing::IsEmpty());
         ungrabKey(key.modifiers, key.keysym);
 
         start();
@@ -192,13 +196,42 @@ TEST_F(RivalReliability, ALayoutWithoutLatinLettersHasNoLabelsToType)
     endCleanly();
 }
 
+// As a person does who has two layouts and a key for the other one.
+TEST_F(RivalReliability, AKeySwitchesToTheOtherLayoutWhileLettersAreUp)
+{
+    ReliabilityRecord record(desktop, "a key switches between two keyboard layouts (us, ru) while letters are up");
+    constexpr std::uint8_t rightControl = 105;
+    run({"setxkbmap", "us,ru", "-option", "grp:rctrl_toggle"});
+    start();
+    const auto window = openWindow();
+    const auto home = rectOf(window->id());
+    const auto code = display.keyboard.codeOf(XKB_KEY_a);
+    for (const Mode mode : {Mode::switcher, Mode::overlay}) {
+        record.tried();
+        enter(mode, window->id());
+        display.keyboard.tapCode({}, rightControl);
+        display.keyboard.tapCode({}, code);
+        quorvel->waitUntilIdle();
+        EXPECT_EQ(rectOf(window->id()), home);
+
+        enter(mode, window->id()); // the hot keys stay where they are
+        display.keyboard.tapCode({}, rightControl);
+        display.keyboard.tapCode({}, code);
+        quorvel->waitUntilIdle();
+        EXPECT_EQ(display.client.activeWindow(), window->id());
+        record.survived("what a letter is, the layout of its moment says");
+    }
+    quorvel->waitUntilPlaced(window->id(), screen);
+    endCleanly();
+}
+
 TEST_F(RivalReliability, NumLockAndCapsLockChangeNothing)
 {
     ReliabilityRecord record(desktop, "NumLock, CapsLock or both are on");
     start();
     const auto window = openWindow();
-    for (const xcb_keysym_t lock : {XKB_KEY_Num_Lock, XKB_KEY_Caps_Lock, XKB_KEY_Num_Lock, XKB_KEY_Caps_Lock}) {
-        display.keyboard.tap(lock); // the last two switch them off again
+    for (const xcb_keysym_t lock : {XKB_KEY_Num_Lock, XKB_KEY_Caps_Lock, XKB_KEY_Num_Lock}) {
+        display.keyboard.tap(lock); // the third switches it off again
         for (const Mode mode : allModes) {
             record.tried();
             work(mode, window->id());

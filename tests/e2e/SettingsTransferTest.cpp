@@ -1,10 +1,9 @@
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <gmock/gmock.h>
 
 #include "e2e/ProgramTest.h"
+#include "support/FileContent.h"
 
 namespace quorvel::e2e {
 namespace {
@@ -16,13 +15,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
-
-std::string contentOf(const fs::path& file)
-{
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
+using xtest::contentOf;
 
 std::string listOf(std::string_view entries)
 {
@@ -47,8 +40,6 @@ protected:
 
     Outcome exportTo(const fs::path& file) { return run("--export-settings", file, configuration); }
     Outcome importFrom(const fs::path& file) { return run("--import-settings", file, configuration); }
-
-    fs::path settingsFile() const { return configuration.path() / "quorvel" / "settings.plist"; }
 
     xtest::TemporaryDirectory baggage; // the files that travel
     fs::path exported = baggage.path() / "exported.plist";
@@ -81,7 +72,7 @@ TEST_F(SettingsTransfer, AnExportHoldsSettingsOnlyAndOnlyForTheUser)
     EXPECT_THAT(outcome.errors, ElementsAre(HasSubstr("\"window\"")));
     EXPECT_THAT(contentOf(exported), AllOf(HasSubstr("textSize"), Not(HasSubstr("window"))));
     EXPECT_EQ(fs::status(exported).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_THAT(contentOf(settingsFile()), HasSubstr("of another program"));
+    EXPECT_THAT(storedSettings(), HasSubstr("of another program"));
 }
 
 TEST_F(SettingsTransfer, WithoutAnySettingsTheExportIsAnEmptyList)
@@ -105,7 +96,7 @@ TEST_F(SettingsTransfer, AnImportRefusesWhatIsNoSettingAndTakesTheRest)
                 ElementsAre("Setting \"isTextBold\" is refused: it holds a string where a Boolean is expected.",
                             "Setting \"moveResizeKeyCode\" is refused: -1 is out of range.",
                             "Setting \"colour\" is refused: there is no such setting."));
-    EXPECT_THAT(contentOf(settingsFile()),
+    EXPECT_THAT(storedSettings(),
                 AllOf(HasSubstr("<real>20"), HasSubstr("<real>1.5</real>"), HasSubstr("2026-11-21T07:00:01Z"),
                       Not(HasSubstr("isTextBold")), Not(HasSubstr("moveResizeKeyCode")), Not(HasSubstr("colour"))));
 }
@@ -119,19 +110,19 @@ TEST_F(SettingsTransfer, TheBinaryFormIsImportedToo)
     const auto outcome = importFrom(file);
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors, IsEmpty());
-    EXPECT_THAT(contentOf(settingsFile()), HasSubstr("<real>20"));
+    EXPECT_THAT(storedSettings(), HasSubstr("<real>20"));
 }
 
 TEST_F(SettingsTransfer, ADamagedFileChangesNothing)
 {
     writeSettings("<key>textSize</key><real>30</real>");
-    const std::string before = contentOf(settingsFile());
+    const std::string before = storedSettings();
     const std::string damaged = "<plist><dict><key>textSize</key><real>20</real><key>isTextBold</key><tr";
     const auto file = baggage.write("damaged.plist", damaged);
     const auto outcome = importFrom(file);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.errors, ElementsAre(StartsWith("Nothing was imported from " + file.string() + ": ")));
-    EXPECT_EQ(contentOf(settingsFile()), before);
+    EXPECT_EQ(storedSettings(), before);
     EXPECT_EQ(contentOf(file), damaged);
     EXPECT_THAT(importFrom(baggage.path() / "absent.plist").errors, ElementsAre(HasSubstr("no such file")));
 }
@@ -142,7 +133,7 @@ TEST_F(SettingsTransfer, AnExportLeavesADamagedSettingsFileWhereItIs)
     const auto outcome = exportTo(exported);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.errors, ElementsAre(HasSubstr("settings.plist cannot be read")));
-    EXPECT_EQ(contentOf(settingsFile()), "<plist><dict>");
+    EXPECT_EQ(storedSettings(), "<plist><dict>");
     EXPECT_FALSE(fs::exists(exported));
 }
 
@@ -166,7 +157,7 @@ TEST_F(SettingsTransfer, ARunningProgramTakesAnImportOverAtOnce)
     quorvel->program().waitForLineStartingWith("Registered hotkey id=3 ");
     display.keyboard.tap(RunningQuorvel::hotKey().modifiers, XKB_KEY_k);
     quorvel->program().waitForLine("Activate overlay shortcut fired");
-    EXPECT_THAT(contentOf(settingsFile()), HasSubstr("didSeedDefaultLayouts"));
+    EXPECT_THAT(storedSettings(), HasSubstr("didSeedDefaultLayouts"));
     quorvel->end();
 }
 

@@ -1,40 +1,30 @@
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "e2e/ProgramTest.h"
+#include "support/FileContent.h"
 
 namespace quorvel::e2e {
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using xtest::contentOf;
 
 const UnitFrames sixTiles = {{0, 0.5, 1.0 / 3, 1}, {1.0 / 3, 0.5, 2.0 / 3, 1}, {2.0 / 3, 0.5, 1, 1},
                              {0, 0, 1.0 / 3, 0.5}, {1.0 / 3, 0, 2.0 / 3, 0.5}, {2.0 / 3, 0, 1, 0.5}};
 
-std::string contentOf(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-class StoredSettings : public ProgramTest {
-protected:
-    std::filesystem::path settingsFile() const { return configuration.path() / "quorvel/settings.plist"; }
-};
+class StoredSettings : public ProgramTest {};
 
 TEST_F(StoredSettings, TheFirstStartStoresTheSelectionAndTheSecondKeepsIt)
 {
     start();
     endCleanly();
-    const auto first = contentOf(settingsFile());
+    const auto first = storedSettings();
     EXPECT_THAT(first, HasSubstr("<key>didSeedDefaultLayouts</key>"));
     EXPECT_THAT(first, HasSubstr("<string>four_tiled</string>"));
     start();
     endCleanly();
-    EXPECT_EQ(contentOf(settingsFile()), first);
+    EXPECT_EQ(storedSettings(), first);
 }
 
 TEST_F(StoredSettings, AreUsedFromTheFirstKeyOn)
@@ -82,7 +72,7 @@ TEST_F(StoredSettings, ThatAreDamagedAreMovedAsideAndNeverLost)
     EXPECT_THAT(quorvel->program().errorLines(),
                 ElementsAre(testing::AllOf(HasSubstr("settings.plist"), HasSubstr("damaged"))));
     EXPECT_EQ(contentOf(settingsFile().string() + ".damaged-1"), damaged);
-    EXPECT_THAT(contentOf(settingsFile()), HasSubstr("didSeedDefaultLayouts"));
+    EXPECT_THAT(storedSettings(), HasSubstr("didSeedDefaultLayouts"));
 }
 
 class StoredLayouts : public ProgramTest {};

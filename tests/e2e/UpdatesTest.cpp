@@ -1,16 +1,12 @@
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include <gmock/gmock.h>
 
 #include "e2e/ProgramTest.h"
+#include "support/FileContent.h"
 #include "support/WebServer.h"
 
 namespace quorvel::e2e {
 namespace {
 
-namespace fs = std::filesystem;
 using testing::HasSubstr;
 
 class Updates : public ProgramTest {
@@ -27,12 +23,7 @@ protected:
                                                      "</key><true/></dict></plist>");
     }
 
-    std::string store() const
-    {
-        std::ostringstream text;
-        text << std::ifstream(configuration.path() / "quorvel" / "updates.plist").rdbuf();
-        return text.str();
-    }
+    std::string store() const { return xtest::contentOf(configuration.path() / "quorvel" / "updates.plist"); }
 
     bool isAnnouncementActive()
     {
@@ -42,12 +33,7 @@ protected:
     }
 
     // The libraries that the program has loaded.
-    std::string maps()
-    {
-        std::ostringstream text;
-        text << std::ifstream("/proc/" + std::to_string(quorvel->program().id()) + "/maps").rdbuf();
-        return text.str();
-    }
+    std::string maps() { return xtest::contentOf("/proc/" + std::to_string(quorvel->program().id()) + "/maps"); }
 };
 
 TEST_F(Updates, ANewVersionIsAnnouncedByItself)

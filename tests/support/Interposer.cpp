@@ -66,9 +66,13 @@ std::size_t padded(std::size_t size)
     return (size + 3) / 4 * 4;
 }
 
-// The length of the connection's first message, of a byte order like this machine's, and of each request after it;
-// nothing while too little of it is there.
-std::optional<std::size_t> lengthOfFirst(std::span<const std::uint8_t> bytes)
+using Bytes = std::span<const std::uint8_t>;
+
+// The length of the message that the bytes begin with, in a byte order like this machine's; nothing while too little of
+// it is there.
+using Length = std::optional<std::size_t>(Bytes);
+
+std::optional<std::size_t> lengthOfConnection(Bytes bytes)
 {
     constexpr std::size_t head = 12;
     if (bytes.size() < head) {
@@ -77,7 +81,7 @@ std::optional<std::size_t> lengthOfFirst(std::span<const std::uint8_t> bytes)
     return head + padded(numberAt<std::uint16_t>(bytes, 6)) + padded(numberAt<std::uint16_t>(bytes, 8));
 }
 
-std::optional<std::size_t> lengthOfRequest(std::span<const std::uint8_t> bytes)
+std::optional<std::size_t> lengthOfRequest(Bytes bytes)
 {
     if (bytes.size() < 4) {
         return std::nullopt;
@@ -89,6 +93,58 @@ std::optional<std::size_t> lengthOfRequest(std::span<const std::uint8_t> bytes)
         return std::nullopt; // a big request, whose length follows
     }
     return std::size_t{4} * numberAt<std::uint32_t>(bytes, 4);
+}
+
+std::optional<std::size_t> lengthOfSetup(Bytes bytes)
+{
+    constexpr std::size_t head = 8;
+    if (bytes.size() < head) {
+        return std::nullopt;
+    }
+    return head + std::size_t{4} * numberAt<std::uint16_t>(bytes, 6);
+}
+
+constexpr std::uint8_t reply = 1;
+constexpr std::uint8_t genericEvent = 35;
+
+std::optional<std::size_t> lengthOfAnswer(Bytes bytes)
+{
+    constexpr std::size_t head = 32;
+    if (bytes.size() < head) {
+        return std::nullopt;
+    }
+    const bool hasMore = bytes[0] == reply || bytes[0] == genericEvent;
+    return hasMore ? head + std::size_t{4} * numberAt<std::uint32_t>(bytes, 4) : head;
+}
+
+// What can be read of one side goes to the other, message by message; `look` sees all but the first one before. False
+// when a side is gone.
+template <class Direction, class Look>
+bool forward(int from, int to, Direction& direction, Length& lengthOfFirst, Length& lengthOfNext, const Look& look)
+{
+    std::array<std::uint8_t, 65536> part{};
+    const auto count = ::recv(from, part.data(), part.size(), 0);
+    if (count <= 0) {
+        return false;
+    }
+    auto& pending = direction.pending;
+    pending.insert(pending.end(), part.begin(), part.begin() + count);
+    Bytes rest(pending);
+    for (;;) {
+        const auto length = direction.isSetUp ? lengthOfNext(rest) : lengthOfFirst(rest);
+        if (!length || *length > rest.size()) {
+            break;
+        }
+        if (std::exchange(direction.isSetUp, true)) {
+            look(rest.first(*length));
+        }
+        if (!sendAll(to, rest.first(*length))) {
+            return false;
+        }
+        rest = rest.subspan(*length);
+    }
+    pending.erase(pending.begin(), pending.end() - static_cast<std::ptrdiff_t>(rest.size()));
+    return true;
 }
 
 } // namespace
@@ -136,6 +192,12 @@ void Interposer::observe(std::function<void(Request)> newObserver)
     observer = std::move(newObserver);
 }
 
+void Interposer::observeEvents(std::function<void(Event)> newObserver)
+{
+    const std::scoped_lock lock(mutex);
+    eventObserver = std::move(newObserver);
+}
+
 bool Interposer::disarm()
 {
     const std::scoped_lock lock(mutex);
@@ -144,7 +206,7 @@ bool Interposer::disarm()
     return hasActed;
 }
 
-void Interposer::look(Request request)
+void Interposer::lookAtRequest(Request request)
 {
     const std::scoped_lock lock(mutex);
     if (observer) {
@@ -158,6 +220,15 @@ void Interposer::look(Request request)
         act();
     } else {
         --left;
+    }
+}
+
+void Interposer::lookAtAnswer(std::span<const std::uint8_t> answer)
+{
+    const std::scoped_lock lock(mutex);
+    const bool isEvent = answer[0] > reply;
+    if (isEvent && eventObserver) {
+        eventObserver(answer);
     }
 }
 
@@ -176,7 +247,7 @@ void Interposer::serve(const std::stop_token& stop)
         std::erase_if(links, [&](Link& link) {
             const bool isAsking = (source++)->revents != 0;
             const bool isAnswered = (source++)->revents != 0;
-            return (isAnswered && !forwardReplies(link)) || (isAsking && !forwardRequests(link));
+            return (isAnswered && !forwardAnswers(link)) || (isAsking && !forwardRequests(link));
         });
         if (sources[1].revents != 0) {
             accept();
@@ -195,37 +266,16 @@ void Interposer::accept()
     }
 }
 
-bool Interposer::forwardReplies(const Link& link) const
+bool Interposer::forwardAnswers(Link& link)
 {
-    std::array<std::uint8_t, 65536> part{};
-    const auto count = ::recv(link.server.get(), part.data(), part.size(), 0);
-    return count > 0 && sendAll(link.program.get(), {part.data(), static_cast<std::size_t>(count)});
+    return forward(link.server.get(), link.program.get(), link.answers, lengthOfSetup, lengthOfAnswer,
+                   [this](Bytes answer) { lookAtAnswer(answer); });
 }
 
 bool Interposer::forwardRequests(Link& link)
 {
-    std::array<std::uint8_t, 65536> part{};
-    const auto count = ::recv(link.program.get(), part.data(), part.size(), 0);
-    if (count <= 0) {
-        return false;
-    }
-    link.pending.insert(link.pending.end(), part.begin(), part.begin() + count);
-    std::span<const std::uint8_t> rest(link.pending);
-    for (;;) {
-        const auto length = link.isSetUp ? lengthOfRequest(rest) : lengthOfFirst(rest);
-        if (!length || *length > rest.size()) {
-            break;
-        }
-        if (std::exchange(link.isSetUp, true)) {
-            look(rest.first(*length));
-        }
-        if (!sendAll(link.server.get(), rest.first(*length))) {
-            return false;
-        }
-        rest = rest.subspan(*length);
-    }
-    link.pending.erase(link.pending.begin(), link.pending.end() - static_cast<std::ptrdiff_t>(rest.size()));
-    return true;
+    return forward(link.program.get(), link.server.get(), link.requests, lengthOfConnection, lengthOfRequest,
+                   [this](Bytes request) { lookAtRequest(request); });
 }
 
 } // namespace quorvel::xtest

@@ -20,6 +20,7 @@ namespace quorvel::xtest {
 class Interposer {
 public:
     using Request = std::span<const std::uint8_t>;
+    using Event = std::span<const std::uint8_t>;
 
     explicit Interposer(const XServer& server);
     Interposer(const Interposer&) = delete;
@@ -36,24 +37,34 @@ public:
     // Called for each request, from another thread; replaces the earlier observer.
     void observe(std::function<void(Request)> newObserver);
 
+    // Called for each event before the program gets it, from another thread; replaces the earlier observer.
+    void observeEvents(std::function<void(Event)> newObserver);
+
     // Forgets what was armed; true when it had acted.
     bool disarm();
 
 private:
+    // What one side sends.
+    struct Direction {
+        std::vector<std::uint8_t> pending; // bytes of a message that is not complete
+        bool isSetUp = false;
+    };
+
     // A program's connection and the server's end of it.
     struct Link {
         FileDescriptor program;
         FileDescriptor server;
-        std::vector<std::uint8_t> pending; // bytes of requests that are not complete
-        bool isSetUp = false;
+        Direction requests;
+        Direction answers;
     };
 
     void listen();
     void serve(const std::stop_token& stop);
     void accept();
     bool forwardRequests(Link& link);
-    bool forwardReplies(const Link& link) const;
-    void look(Request request);
+    bool forwardAnswers(Link& link);
+    void lookAtRequest(Request request);
+    void lookAtAnswer(std::span<const std::uint8_t> answer);
 
     std::string serverAddress;
     std::string displayName;
@@ -62,6 +73,7 @@ private:
     std::list<Link> links;
     std::mutex mutex;
     std::function<void(Request)> observer;
+    std::function<void(Event)> eventObserver;
     std::function<bool(Request)> filter;
     std::function<void()> act;
     std::size_t left = 0;

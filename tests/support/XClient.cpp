@@ -248,8 +248,12 @@ bool XClient::exists(xcb_window_t window)
 
 bool XClient::isViewable(xcb_window_t window)
 {
-    const XReply<xcb_get_window_attributes_reply_t> reply(
-        xcb_get_window_attributes_reply(link.get(), xcb_get_window_attributes(link.get(), window), nullptr));
+    return answerOf(xcb_get_window_attributes(link.get(), window));
+}
+
+bool XClient::answerOf(xcb_get_window_attributes_cookie_t cookie)
+{
+    const XReply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(link.get(), cookie, nullptr));
     return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
@@ -363,9 +367,18 @@ xcb_window_t XClient::focusedWindow()
 
 pid_t XClient::processOf(xcb_window_t window)
 {
+    return answerOf(askForProcess(window));
+}
+
+xcb_res_query_client_ids_cookie_t XClient::askForProcess(xcb_window_t window)
+{
     const xcb_res_client_id_spec_t spec{.client = window, .mask = XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-    const XReply<xcb_res_query_client_ids_reply_t> reply(
-        xcb_res_query_client_ids_reply(link.get(), xcb_res_query_client_ids(link.get(), 1, &spec), nullptr));
+    return xcb_res_query_client_ids(link.get(), 1, &spec);
+}
+
+pid_t XClient::answerOf(xcb_res_query_client_ids_cookie_t cookie)
+{
+    const XReply<xcb_res_query_client_ids_reply_t> reply(xcb_res_query_client_ids_reply(link.get(), cookie, nullptr));
     if (!reply) {
         return 0;
     }
@@ -380,8 +393,21 @@ pid_t XClient::processOf(xcb_window_t window)
 
 std::vector<xcb_window_t> XClient::topLevelsOfProcess(pid_t process)
 {
+    // All questions are on their way before the first answer is read: there may be a thousand windows.
     auto windows = children(root());
-    std::erase_if(windows, [&](xcb_window_t window) { return !isViewable(window) || processOf(window) != process; });
+    std::vector<xcb_get_window_attributes_cookie_t> attributes;
+    std::vector<xcb_res_query_client_ids_cookie_t> processes;
+    for (const xcb_window_t window : windows) {
+        attributes.push_back(xcb_get_window_attributes(link.get(), window));
+        processes.push_back(askForProcess(window));
+    }
+    std::size_t index = 0;
+    std::erase_if(windows, [&](xcb_window_t /*window*/) {
+        const bool isViewable = answerOf(attributes[index]);
+        const bool isOfProcess = answerOf(processes[index]) == process;
+        ++index;
+        return !isViewable || !isOfProcess;
+    });
     return windows;
 }
 

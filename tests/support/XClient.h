@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include <xcb/res.h>
 #include <xcb/xcb.h>
 
 #include "support/PixelRect.h"
@@ -120,6 +121,12 @@ private:
 
     void watch(xcb_window_t window);
     void handle(const xcb_generic_event_t& event);
+
+    // Questions of which several can be on their way: whether a window is viewable, and which process made it.
+    bool answerOf(xcb_get_window_attributes_cookie_t cookie);
+    xcb_res_query_client_ids_cookie_t askForProcess(xcb_window_t window);
+    pid_t answerOf(xcb_res_query_client_ids_cookie_t cookie);
+
     XReply<xcb_get_property_reply_t> rawProperty(xcb_window_t window, const std::string& name);
 
     std::unique_ptr<xcb_connection_t, Disconnect> link;

@@ -134,6 +134,23 @@ TEST_F(StatusBarTest, AnItemShowsItsImage)
     loop.waitFor("the picture", [&] { return colorsOf(icon).size() > 4; });
 }
 
+TEST_F(StatusBarTest, WhateverAnybodySaysOfItsSizeAnItemsPictureStaysSmall)
+{
+    const auto tray = startTray();
+    const auto item = createItem();
+    const auto icon = iconWindow();
+    xcb_configure_notify_event_t event{};
+    event.response_type = XCB_CONFIGURE_NOTIFY;
+    event.event = event.window = icon;
+    event.width = event.height = 20'000;
+    xcb_send_event(display.client.connection(), 0, icon, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&event));
+    display.client.sync();
+    loop.drain();
+    // A picture of that size would be more than a request may hold, which ends a connection.
+    EXPECT_EQ(xcb_connection_has_error(connection->xcb()), 0);
+}
+
 TEST_F(StatusBarTest, AnItemWithoutImageIsEmpty)
 {
     const auto tray = startTray();

@@ -1,13 +1,12 @@
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include "support/Compositor.h"
+#include "support/FileContent.h"
 #include "support/ProgramUnderTest.h"
 #include "support/StrutPanel.h"
 #include "support/SystemTray.h"
@@ -26,13 +25,6 @@ const fs::path executable = QUORVEL_PROGRAM;
 const KeyCombination overlayKey{{Modifier::command, Modifier::shift}, XKB_KEY_o};
 const KeyCombination switcherKey{{Modifier::command, Modifier::shift}, XKB_KEY_f};
 constexpr PixelRect monitor{0, 0, 1920, 1080};
-
-std::string contentOf(const fs::path& file)
-{
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
 
 class DoctorTest : public testing::Test {
 protected:
