@@ -50,7 +50,7 @@ Entry shellCommands(const std::string& program, const std::string& first, const 
             }};
 }
 
-Task task(std::string name, const WindowManagerSetup& windowManager)
+Task task(const std::string& name, const WindowManagerSetup& windowManager)
 {
     return {
         std::move(name),

@@ -4,16 +4,17 @@ namespace quorvel::bench {
 
 namespace {
 
-const xtest::TemporaryDirectory& withSettings(const xtest::TemporaryDirectory& configuration, std::string_view settings)
+std::unique_ptr<xtest::TemporaryDirectory> configurationWith(std::string_view settings)
 {
-    configuration.write("quorvel/settings.plist", settings);
+    auto configuration = std::make_unique<xtest::TemporaryDirectory>();
+    configuration->write("quorvel/settings.plist", settings);
     return configuration;
 }
 
 } // namespace
 
 QuorvelProcess::QuorvelProcess(BenchDesktop& desktop, std::string_view settings)
-    : program(desktop.display(), QUORVEL_PROGRAM, withSettings(configuration, settings))
+    : configuration(configurationWith(settings)), program(desktop.display(), QUORVEL_PROGRAM, *configuration)
 {
     program.waitForLineStartingWith("Registered hotkey id=3");
     desktop.eventProbe().rest();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string_view>
 
 #include "latency/BenchDesktop.h"
@@ -17,7 +18,7 @@ public:
     void drainOutput() { program.outputLines(); }
 
 private:
-    xtest::TemporaryDirectory configuration;
+    std::unique_ptr<xtest::TemporaryDirectory> configuration;
     xtest::ProgramUnderTest program;
 };
 

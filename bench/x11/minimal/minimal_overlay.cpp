@@ -69,8 +69,10 @@ void run(bool alpha)
     const XcbSession session;
     auto* xcb = session.connection();
     const auto visual = visualFor(session, alpha);
+    constexpr int windowCount = 6;
     std::vector<xcb_window_t> windows;
-    for (int index = 0; index < 6; ++index) {
+    windows.reserve(windowCount);
+    for (int index = 0; index < windowCount; ++index) {
         windows.push_back(preparedWindow(session, visual,
                                          {static_cast<std::int16_t>(20 + index % 3 * 620),
                                           static_cast<std::int16_t>(20 + index / 3 * 520), 600, 500}));
