@@ -112,6 +112,13 @@ const std::vector<std::string>& ProgramUnderTest::errorLines()
     return errors.lines();
 }
 
+void ProgramUnderTest::forgetOutput()
+{
+    output.read();
+    output.forget();
+    consumed = 0;
+}
+
 int ProgramUnderTest::end(int signal)
 {
     process->sendSignal(signal);

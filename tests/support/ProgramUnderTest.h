@@ -43,6 +43,9 @@ public:
     const std::vector<std::string>& outputLines();
     const std::vector<std::string>& errorLines();
 
+    // Lets go of the lines of standard output so far, waited for or not.
+    void forgetOutput();
+
     // Sends the signal and waits for the end: the exit status, or 128 + the signal's number.
     int end(int signal = SIGTERM);
     int waitForEnd();
@@ -55,6 +58,8 @@ private:
 
         int source() const { return descriptor; }
         const std::vector<std::string>& lines() const { return complete; }
+
+        void forget() { complete.clear(); }
 
         // Takes what can be read without waiting; false once the stream has ended.
         bool read();
