@@ -33,17 +33,31 @@ bool isHeldByAnotherProgram(const Shortcut& shortcut, HotKeys& hotKeys)
     return claim.status == osStatus::hotKeyExists;
 }
 
+// Inside a mode a key counts with whatever modifiers: one of them resizes, and none tells two keys apart.
+bool isModeOfBoth(const ShortcutRow& one, const ShortcutRow& other)
+{
+    return one.section == other.section && one.reading == ShortcutReading::mode &&
+           other.reading == ShortcutReading::mode;
+}
+
 } // namespace
+
+bool isHeldBy(const ShortcutRow& other, const ShortcutRow& row, const Settings& settings)
+{
+    const auto shown = shownShortcut(row, settings);
+    const auto held = effectiveShortcut(other, settings);
+    return isModeOfBoth(row, other) ? held.keyCode == shown.keyCode : held == shown;
+}
 
 std::optional<ShortcutHolder> holderOfShortcut(const ShortcutRow& row, const Settings& settings, HotKeys& hotKeys)
 {
-    const auto shortcut = shownShortcut(row, settings);
     for (const auto& other : shortcutRows()) {
-        if (&other != &row && effectiveShortcut(other, settings) == shortcut) {
+        if (&other != &row && isHeldBy(other, row, settings)) {
             return ShortcutHolder{&other};
         }
     }
-    return isHeldByAnotherProgram(shortcut, hotKeys) ? std::optional(ShortcutHolder{}) : std::nullopt;
+    return isHeldByAnotherProgram(shownShortcut(row, settings), hotKeys) ? std::optional(ShortcutHolder{})
+                                                                         : std::nullopt;
 }
 
 std::string holderText(const ShortcutHolder& holder)

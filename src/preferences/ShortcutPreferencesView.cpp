@@ -176,7 +176,7 @@ std::string ShortcutPreferencesView::helpLine(const Row& row) const
         return {};
     }
     const auto* const other = row.finding->holder.row;
-    const bool stillHolds = other == nullptr || effectiveShortcut(*other, settings) == row.finding->shortcut;
+    const bool stillHolds = other == nullptr || isHeldBy(*other, row.definition, settings);
     return stillHolds ? holderText(row.finding->holder) : std::string();
 }
 

@@ -31,7 +31,8 @@ std::span<const ShortcutRow> shortcutRows();
 // What the row shows: what is stored, and 0 for what is not.
 Shortcut shownShortcut(const ShortcutRow& row, const Settings& settings);
 
-// What the program acts on, which for a row that shows nothing may be a default.
+// What the program acts on, which for a row that shows nothing may be a default. The modifiers of a key inside a mode
+// are only stored.
 Shortcut effectiveShortcut(const ShortcutRow& row, const Settings& settings);
 
 } // namespace quorvel

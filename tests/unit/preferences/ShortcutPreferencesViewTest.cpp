@@ -255,6 +255,31 @@ TEST_F(ShortcutPreferencesViewTest, ARowThatShowsNoneHoldsItsDefault)
     EXPECT_EQ(helpOf("mrMoveLeftKeyCode"), "Also used by “Toggle Minimized” in Focus Switcher.");
 }
 
+TEST_F(ShortcutPreferencesViewTest, KeysOfOneModeMeetWhateverTheirModifiers)
+{
+    constexpr KeyCode tab = 48;
+    record("mrMinimizeKeyCode", tab, eventFlags::shift);
+    EXPECT_EQ(control("mrMinimizeKeyCode").text, "⇧Tab");
+    EXPECT_EQ(helpOf("mrMinimizeKeyCode"), "Also used by “Cycle Windows” in Move/Resize Mode.");
+    record("mrCycleWindowsKeyCode", tab, eventFlags::option);
+    EXPECT_EQ(helpOf("mrMinimizeKeyCode"), "Also used by “Cycle Windows” in Move/Resize Mode.");
+    EXPECT_EQ(helpOf("mrCycleWindowsKeyCode"), "Also used by “Minimize” in Move/Resize Mode.");
+    record("mrCycleWindowsKeyCode", keyF);
+    EXPECT_EQ(helpOf("mrMinimizeKeyCode"), "");
+}
+
+TEST_F(ShortcutPreferencesViewTest, KeysOfDifferentModesAndHotKeysMeetOnlyWithTheSameModifiers)
+{
+    record("mrMinimizeKeyCode", keyF, eventFlags::shift);
+    record("fsToggleMinimizedKeyCode", keyF);
+    EXPECT_EQ(helpOf("fsToggleMinimizedKeyCode"), "");
+    record("moveResizeKeyCode", keyF, eventFlags::option);
+    EXPECT_EQ(helpOf("moveResizeKeyCode"), "");
+    record("mrExitModeKeyCode", keyO, commandShift);
+    record("moveResizeKeyCode", keyO);
+    EXPECT_EQ(helpOf("moveResizeKeyCode"), "");
+}
+
 TEST_F(ShortcutPreferencesViewTest, AShortcutOfAnotherProgramIsRecordedAndTheRowSaysSo)
 {
     desktop.hotKeys.holdElsewhere({31, 768});
