@@ -224,6 +224,15 @@ TEST_F(AppearancePreferencesViewTest, ACancelledNameSavesNothing)
     EXPECT_EQ(pane.form().alert->field->text, "");
 }
 
+TEST_F(AppearancePreferencesViewTest, ASavedThemeSaysOnWhichDayItWasSaved)
+{
+    desktop.dates.today.secondsSince2001 += 30 * 86'400.0;
+    saveTheme("Night");
+    desktop.dates.today.secondsSince2001 += 86'400.0;
+    press("Manage Themes…");
+    EXPECT_EQ(pane.form().sheet.value().rows.at(0).subtitle, "Created Jan 31, 2025");
+}
+
 TEST_F(AppearancePreferencesViewTest, ASavedThemeComesBackWhenItIsApplied)
 {
     store("textSize", PropertyValue{40.0});
