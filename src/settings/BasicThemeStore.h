@@ -42,7 +42,8 @@ public:
     // Themes that cannot be written are logged; what is stored stays as it is.
     void save();
 
-    // Each of these saves. A theme is known by its id; nothing happens for one that is not in here.
+    // Each of these saves. A theme is known by its id. One that is not in here is not renamed, and nothing happens;
+    // to remove it saves all the same.
     void add(Record theme);
     void rename(const Record& theme, std::string newName);
     void remove(const Record& theme);
