@@ -1,11 +1,14 @@
 #include "platform/x11/windows/Activation.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "platform/x11/Connection.h"
+#include "platform/x11/Precedence.h"
 #include "platform/x11/windows/ClientWindows.h"
 #include "platform/x11/windows/TypingPause.h"
 #include "platform/x11/windows/WindowManager.h"
+#include "platform/x11/windows/WindowManagerBarrier.h"
 
 namespace quorvel::x11 {
 
@@ -19,11 +22,13 @@ bool isForPeople(const WindowSnapshot& window)
 } // namespace
 
 Activation::Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager,
-                       TypingPause& typingPause)
+                       TypingPause& typingPause, Precedence& precedence, WindowManagerBarrier& barrier)
     : connection(connection),
       windows(windows),
       windowManager(windowManager),
       typingPause(typingPause),
+      precedence(precedence),
+      barrier(barrier),
       activeWindowChanges(
           connection.addHandler<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
               if (event.window == this->connection.root() && event.atom == this->connection.atoms().netActiveWindow) {
@@ -45,6 +50,17 @@ void Activation::raise(xcb_window_t window)
     }
     windowManager.activate(window);
     lastRaised = window;
+    takePrecedence();
+}
+
+// Until the window manager has dealt with what it was asked, and then with the change of the focus that it brought
+// about by that.
+void Activation::takePrecedence()
+{
+    if (barrier.isSupported()) {
+        const auto claim = std::make_shared<Subscription>(precedence.claim());
+        barrier.whenReached([&barrier = barrier, claim] { barrier.whenReached([claim] { claim->reset(); }); });
+    }
 }
 
 void Activation::activate(ProcessId process)

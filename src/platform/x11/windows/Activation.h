@@ -9,13 +9,16 @@ namespace quorvel::x11 {
 
 class ClientWindows;
 class Connection;
+class Precedence;
 class TypingPause;
 class WindowManager;
+class WindowManagerBarrier;
 
 // Brings windows and applications forward.
 class Activation {
 public:
-    Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager, TypingPause& typingPause);
+    Activation(Connection& connection, ClientWindows& windows, WindowManager& windowManager, TypingPause& typingPause,
+               Precedence& precedence, WindowManagerBarrier& barrier);
 
     // Raises the window and gives it the keyboard, on whatever desktop it is.
     void raise(xcb_window_t window);
@@ -25,12 +28,15 @@ public:
     void activate(ProcessId process);
 
 private:
+    void takePrecedence();
     xcb_window_t frontWindow(ProcessId process);
 
     Connection& connection;
     ClientWindows& windows;
     WindowManager& windowManager;
     TypingPause& typingPause;
+    Precedence& precedence;
+    WindowManagerBarrier& barrier;
     xcb_window_t lastRaised = XCB_NONE; // until another window becomes active
     Subscription activeWindowChanges;
 };

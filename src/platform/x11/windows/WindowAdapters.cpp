@@ -11,7 +11,7 @@ WindowAdapters::WindowAdapters(Connection& connection, MainQueue& mainQueue, X11
       barrier(connection, windowManager),
       typingPause(connection, mainQueue, barrier),
       windows(connection, rootProperties),
-      activation(connection, windows, windowManager, typingPause),
+      activation(connection, windows, windowManager, typingPause, precedence, barrier),
       placements(connection, mainQueue, precedence, windows, windowManager, barrier),
       watcher(connection, mainQueue, windows, placements),
       desktopEntries(DesktopEntries::standardDirectories()),
