@@ -95,6 +95,7 @@ static_assert(NSEventMaskKeyDown == 0x400);
 static_assert(NSEventMaskLeftMouseDown == 0x2);
 static_assert(NSEventMaskOtherMouseDown == 0x2000000);
 static_assert(NSEventMaskRightMouseDown == 0x8);
+static_assert(NSEventModifierFlagCapsLock == eventFlags::capsLock);
 static_assert(NSEventModifierFlagCommand == eventFlags::command);
 static_assert(NSEventModifierFlagFunction == 0x800000);
 static_assert(NSEventModifierFlagHelp == 0x400000);

@@ -57,8 +57,9 @@ protected:
     std::optional<ManualWindowManager> manager;
     TimelessQueue queue;
     Precedence precedence{queue};
-    Activation activation{*desktop.connection,          desktop.adapters.windows, desktop.adapters.windowManager,
-                          desktop.adapters.typingPause, precedence,               desktop.adapters.barrier};
+    Activation activation{
+        *desktop.connection, desktop.adapters.windows, desktop.adapters.windowManager, desktop.adapters.typingPause,
+        precedence,          desktop.adapters.barrier};
 };
 
 // Letters are taken away afterwards: one by one they uncover what is below, and meanwhile no window comes forward.
