@@ -22,7 +22,7 @@ struct FeedUpdaterEnvironment {
     Workspace& workspace;
     Dates& dates;
     std::string feedAddress;
-    std::string version; // of this program
+    std::string version; // the short one of this program
     std::string system;  // as feeds name the one that this program runs on
 };
 

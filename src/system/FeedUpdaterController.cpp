@@ -98,7 +98,7 @@ void FeedUpdaterController::finish(const HttpClient::Answer& answer)
         return;
     }
     const auto newest = newestItem(*items);
-    if (newest && compareVersions(newest->version, environment.version) > 0) {
+    if (newest && compareVersions(newest->shortVersion, environment.version) > 0) {
         offer(*newest);
     } else if (isAwaited) {
         tell("Quorvel is up to date.", fmt::format("You have version {}.", environment.version));

@@ -47,6 +47,7 @@ std::string webAddress(std::string_view text)
 // An item while its elements come in.
 struct OpenItem {
     UpdateFeedItem item;
+    std::string enclosureAddress;
     bool isForOthers = false;
     bool isForAnotherSystem = false; // so far no enclosure is for this one
     bool isForThisSystem = false;
@@ -59,6 +60,7 @@ struct Reader {
     std::string text;              // of the innermost one
     std::optional<OpenItem> open;
     std::vector<UpdateFeedItem> items;
+    std::string channelLink;
     bool isFeed = false;
 };
 
@@ -74,6 +76,8 @@ bool isAt(const Reader& reader, std::initializer_list<std::string_view> path)
 
 void readEnclosure(OpenItem& open, std::string_view system, const XML_Char** attributes)
 {
+    std::string address;
+    bool isForAnotherSystem = false;
     for (; *attributes != nullptr; attributes += 2) {
         const std::string_view name = localName(attributes[0]);
         const std::string_view value = attributes[1];
@@ -81,9 +85,15 @@ void readEnclosure(OpenItem& open, std::string_view system, const XML_Char** att
             open.item.version = presentable(value, longestVersion);
         } else if (name == "shortVersionString" && open.item.shortVersion.empty()) {
             open.item.shortVersion = presentable(value, longestVersion);
+        } else if (name == "url") {
+            address = webAddress(value);
         } else if (name == "os") {
-            (value == system ? open.isForThisSystem : open.isForAnotherSystem) = true;
+            isForAnotherSystem = value != system;
+            (isForAnotherSystem ? open.isForAnotherSystem : open.isForThisSystem) = true;
         }
+    }
+    if (!isForAnotherSystem && open.enclosureAddress.empty()) {
+        open.enclosureAddress = std::move(address);
     }
 }
 
@@ -129,6 +139,9 @@ void closeItem(Reader& reader)
     if (open.item.shortVersion.empty()) {
         open.item.shortVersion = open.item.version;
     }
+    if (open.item.link.empty()) {
+        open.item.link = open.enclosureAddress;
+    }
     if (isOurs && !open.item.version.empty()) {
         reader.items.push_back(std::move(open.item));
     }
@@ -142,6 +155,8 @@ void onEndElement(void* userData, const XML_Char*)
         closeItem(reader);
     } else if (reader.open && reader.path.size() == depthOfFields) {
         readField(*reader.open, reader.path.back(), reader.text);
+    } else if (isAt(reader, {"rss", "channel", "link"}) && reader.channelLink.empty()) {
+        reader.channelLink = webAddress(reader.text);
     }
     reader.path.pop_back();
     reader.text.clear();
@@ -181,6 +196,11 @@ std::expected<std::vector<UpdateFeedItem>, std::string> parseUpdateFeed(std::str
     }
     if (!reader.isFeed) {
         return std::unexpected("what the server sent is not an update feed");
+    }
+    for (auto& item : reader.items) {
+        if (item.link.empty()) {
+            item.link = reader.channelLink;
+        }
     }
     return std::move(reader.items);
 }

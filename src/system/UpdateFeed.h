@@ -13,10 +13,11 @@ namespace quorvel {
 
 // A version that a feed announces.
 struct UpdateFeedItem {
-    std::string version;      // what versions are compared by
-    std::string shortVersion; // what a person reads
+    std::string version;      // what the items of a feed are ordered by; may be the number of a build
+    std::string shortVersion; // what a person reads, and this program calls its own
     std::optional<Date> date;
-    std::string link;      // the download page; it and the next one are HTTP or HTTPS addresses or empty
+    std::string link;      // the download page; it and the next one are HTTP or HTTPS addresses or empty. An item
+                           // without one has its enclosure's address, or else the channel's page.
     std::string notesLink; // the page with the release notes
 
     bool operator==(const UpdateFeedItem&) const = default;

@@ -91,6 +91,15 @@ TEST_F(FeedUpdaterTest, AnOlderVersionAndAnEmptyFeedAreNothingNewer)
     EXPECT_EQ(alerts()[1].messageText, "Quorvel is up to date.");
 }
 
+TEST_F(FeedUpdaterTest, AFeedOfBuildNumbersDoesNotAnnounceTheVersionThatRuns)
+{
+    serve(feedWith("120", "<shortVersionString>1.2</shortVersionString><link>https://example.org/get</link>"));
+    open().checkForUpdates();
+    desktop.drain();
+    ASSERT_THAT(alerts(), SizeIs(1));
+    EXPECT_EQ(alerts()[0].messageText, "Quorvel is up to date.");
+}
+
 TEST_F(FeedUpdaterTest, ANewerVersionLeadsToItsDownloadPage)
 {
     serve(feedWith("130", "<shortVersionString>1.3</shortVersionString><link>https://example.org/get</link>"

@@ -17,7 +17,7 @@ using testing::SizeIs;
 std::string feed(std::string_view items)
 {
     return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<rss version=\"2.0\" xmlns:a=\"http://example.org/appcast\">"
-           "<channel><title>Versions</title><link>https://example.org/feed</link>" +
+           "<channel><title>Versions</title>" +
            std::string(items) + "</channel></rss>";
 }
 
@@ -46,7 +46,30 @@ TEST(UpdateFeed, VersionsMayStandInTheEnclosure)
 {
     EXPECT_THAT(itemsOf("<item><enclosure url=\"https://example.org/q.tar.gz\" a:version=\"120\" "
                         "a:shortVersionString=\"1.2\"/></item>"),
-                ElementsAre(UpdateFeedItem{"120", "1.2", std::nullopt, "", ""}));
+                ElementsAre(UpdateFeedItem{"120", "1.2", std::nullopt, "https://example.org/q.tar.gz", ""}));
+}
+
+TEST(UpdateFeed, AnItemWithoutAPageHasItsEnclosuresAddressOrElseTheChannelsPage)
+{
+    const auto linksOf = [](std::string_view document) {
+        std::vector<std::string> links;
+        for (const auto& item : itemsOf(document)) {
+            links.push_back(item.link);
+        }
+        return links;
+    };
+    const std::string enclosures = "<enclosure url=\"https://example.org/q.dmg\" a:os=\"macos\"/>"
+                                   "<enclosure url=\"https://example.org/q.deb\" a:os=\"linux\"/>";
+    const std::string page = "<link>https://example.org/get</link>";
+    const std::string channelPage = "<link>https://example.org/</link>";
+    EXPECT_THAT(linksOf("<item>" + enclosures + page + "<a:version>1</a:version></item>" + channelPage),
+                ElementsAre("https://example.org/get"));
+    EXPECT_THAT(linksOf(channelPage + "<item><link>file:///x</link>" + enclosures + "<a:version>1</a:version></item>"),
+                ElementsAre("https://example.org/q.deb"));
+    EXPECT_THAT(linksOf("<item><enclosure url=\"data:x\"/><a:version>1</a:version></item>" + channelPage +
+                        "<item><a:version>2</a:version></item><link>https://example.org/other</link>"),
+                ElementsAre("https://example.org/", "https://example.org/"));
+    EXPECT_THAT(linksOf("<link>javascript:x</link><item><a:version>1</a:version></item>"), ElementsAre(""));
 }
 
 TEST(UpdateFeed, EitherVersionStandsInForTheOther)
