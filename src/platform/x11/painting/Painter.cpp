@@ -29,8 +29,8 @@ struct PlacedText {
 
 class ListPainter {
 public:
-    ListPainter(cairo_t* context, PixelSize size, const TextLayouts& layouts)
-        : context(context), size(size), layouts(layouts)
+    ListPainter(cairo_t* context, PixelSize size, const TextLayouts& layouts, double textScale)
+        : context(context), size(size), layouts(layouts), textScale(textScale)
     {}
 
     void operator()(const RoundedRectCommand& command) const
@@ -66,11 +66,20 @@ private:
         }
     }
 
-    static void paintText(cairo_t* target, const PlacedText& text, const Color& color)
+    void paintText(cairo_t* target, const PlacedText& text, const Color& color) const
     {
+        auto* const line = pango_layout_get_line_readonly(text.layout.get(), 0);
         setSource(target, color);
         cairo_move_to(target, text.x, text.baseline);
-        pango_cairo_show_layout_line(target, pango_layout_get_line_readonly(text.layout.get(), 0));
+        if (textScale == 1.0) {
+            pango_cairo_show_layout_line(target, line);
+        } else {
+            cairo_save(target);
+            cairo_scale(target, textScale, textScale);
+            pango_cairo_layout_line_path(target, line); // cairo would move glyphs to whole pixels
+            cairo_restore(target);
+            cairo_fill(target);
+        }
     }
 
     void paintShadow(const Shadow& shadow, const ViewRect& ink, const std::function<void(cairo_t*)>& paintInk) const
@@ -84,15 +93,16 @@ private:
     {
         PlacedText text{.layout = layouts.layout(command.text, command.font)};
         auto* const layout = text.layout.get();
-        text.width = TextLayouts::width(layout);
-        if (text.width > command.box.width) {
+        constexpr double roundingError = 1e-6;
+        const double room = command.box.width / textScale + roundingError;
+        if (TextLayouts::width(layout) > room) {
             pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_END);
-            pango_layout_set_width(layout, static_cast<int>(std::floor(command.box.width)) * PANGO_SCALE);
-            text.width = TextLayouts::width(layout);
+            pango_layout_set_width(layout, static_cast<int>(std::floor(room)) * PANGO_SCALE);
         }
+        text.width = textScale * TextLayouts::width(layout);
         const auto metrics = layouts.lineMetrics(command.font);
         text.x = std::floor(leftEdge(command, text.width));
-        text.baseline = std::round(command.box.midY() + (metrics.ascent - metrics.descent) / 2.0);
+        text.baseline = std::round(command.box.midY() + textScale * (metrics.ascent - metrics.descent) / 2.0);
         return text;
     }
 
@@ -116,28 +126,30 @@ private:
         return {rect.x - outside, rect.y - outside, rect.width + 2.0 * outside, rect.height + 2.0 * outside};
     }
 
-    static ViewRect inkRect(const PlacedText& text)
+    ViewRect inkRect(const PlacedText& text) const
     {
         PangoRectangle ink{};
         pango_layout_line_get_pixel_extents(pango_layout_get_line_readonly(text.layout.get(), 0), &ink, nullptr);
-        return {text.x + ink.x, text.baseline + ink.y, static_cast<double>(ink.width), static_cast<double>(ink.height)};
+        return {text.x + textScale * ink.x, text.baseline + textScale * ink.y, textScale * ink.width,
+                textScale * ink.height};
     }
 
     cairo_t* context;
     PixelSize size;
     const TextLayouts& layouts;
+    double textScale;
 };
 
 } // namespace
 
-void Painter::paint(PixelImage& image, const DrawList& list) const
+void Painter::paint(PixelImage& image, const DrawList& list, double textScale) const
 {
     if (image.size.width <= 0 || image.size.height <= 0) {
         return;
     }
     const CairoSurface surface = imageSurface(image);
     const CairoContext context(cairo_create(surface.get()));
-    const ListPainter painter(context.get(), image.size, layouts);
+    const ListPainter painter(context.get(), image.size, layouts, textScale);
     for (const auto& command : list.commands) {
         std::visit(painter, command);
     }

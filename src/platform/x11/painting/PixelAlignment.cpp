@@ -40,7 +40,6 @@ struct Alignment {
         const double right = std::ceil(command.box.maxX() * xFactor);
         const double bottom = std::ceil(command.box.maxY() * yFactor);
         command.box = {left, top, right - left, bottom - top};
-        command.font.size *= scale;
         scaleShadow(command.shadow);
         return command;
     }

@@ -11,10 +11,11 @@ namespace quorvel::x11 {
 
 QImage drawnImage(const DrawList& list, Size size, double scale, const TextLayouts& layouts)
 {
-    const PixelSize pixels{std::max(1, static_cast<int>(std::lround(size.width * scale))),
-                           std::max(1, static_cast<int>(std::lround(size.height * scale)))};
+    // Whole pixels for all of it, so that no text is cut that fits its box.
+    const PixelSize pixels{std::max(1, static_cast<int>(std::ceil(size.width * scale))),
+                           std::max(1, static_cast<int>(std::ceil(size.height * scale)))};
     PixelImage picture(pixels);
-    Painter(layouts).paint(picture, alignedToPixels(list, size, pixels, scale));
+    Painter(layouts).paint(picture, alignedToPixels(list, size, pixels, scale), scale);
     const QImage view(reinterpret_cast<const uchar*>(picture.pixels.data()), pixels.width, pixels.height,
                       QImage::Format_ARGB32_Premultiplied);
     QImage image = view.copy(); // the picture goes

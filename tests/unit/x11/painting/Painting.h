@@ -14,10 +14,10 @@ struct Painting {
     TextLayouts layouts{"DejaVu Sans"};
     Painter painter{layouts};
 
-    PixelImage paint(PixelSize size, std::vector<DrawCommand> commands) const
+    PixelImage paint(PixelSize size, std::vector<DrawCommand> commands, double textScale = 1.0) const
     {
         PixelImage image(size);
-        painter.paint(image, DrawList{std::move(commands)});
+        painter.paint(image, DrawList{std::move(commands)}, textScale);
         return image;
     }
 };

@@ -55,7 +55,7 @@ TEST(PixelAlignment, FillsTheAreaOfAFractionalView)
     EXPECT_EQ(shape(list).rect, (ViewRect{0, 0, 958, 525}));
 }
 
-TEST(PixelAlignment, ScalesEverything)
+TEST(PixelAlignment, ScalesEverythingButFonts)
 {
     auto command = stroked({10, 10, 30, 30}, Color::white(), 2.0, 5.0);
     command.shadow = Shadow{Color::black(), 6.0};
@@ -66,7 +66,7 @@ TEST(PixelAlignment, ScalesEverything)
     EXPECT_EQ(result.shadow->blurRadius, 12.0);
     const auto scaledText = std::get<TextCommand>(aligned(text("A", {1, 2, 3, 4}), 2.0).commands.at(0));
     EXPECT_EQ(scaledText.box, (ViewRect{2, 4, 6, 8}));
-    EXPECT_EQ(scaledText.font.size, 40.0);
+    EXPECT_EQ(scaledText.font.size, 20.0);
 }
 
 TEST(PixelAlignment, GrowsTextBoxesToWholePixels)

@@ -1,5 +1,8 @@
+#include <cmath>
+
 #include <gtest/gtest.h>
 
+#include "platform/x11/painting/PixelAlignment.h"
 #include "platform/x11/painting/X11TextMetrics.h"
 #include "tests/unit/x11/painting/Painting.h"
 
@@ -101,6 +104,28 @@ TEST(TextPainting, TextAsWideAsMeasuredIsNotCut)
         const auto whole = painting.paint(canvas, {command});
         command.box.width = metrics.measure(characters, command.font).width;
         EXPECT_EQ(painting.paint(canvas, {command}), whole) << characters;
+    }
+}
+
+TEST(TextPainting, TextAsWideAsMeasuredIsNotCutWhenItIsScaled)
+{
+    const Painting painting;
+    const X11TextMetrics metrics(painting.layouts);
+    for (const double scale : {0.6, 0.63, 0.7, 0.75, 0.8, 0.9, 1.5, 2.0}) {
+        for (const double size : {11.0, 12.8, 20.0}) {
+            auto command = text("Example Window Title", {7, 0, 280, 60});
+            command.alignment = TextAlignment::leading;
+            command.font.size = size;
+            const auto paint = [&] {
+                const PixelSize pixels{static_cast<int>(std::ceil(canvas.width * scale)),
+                                       static_cast<int>(std::ceil(canvas.height * scale))};
+                return painting.paint(pixels, alignedToPixels({{command}}, {300, 60}, pixels, scale).commands, scale);
+            };
+            const auto whole = paint();
+            command.box.width = metrics.measure(command.text, command.font).width;
+            EXPECT_EQ(paint(), whole) << scale << ", " << size;
+            EXPECT_NEAR(inkBounds(whole)->width, scale * boundsOf(command).width, 2.0) << scale << ", " << size;
+        }
     }
 }
 
