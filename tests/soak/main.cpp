@@ -2,8 +2,9 @@
 //
 //   soak PROGRAM FOLDER [--cycles FACTOR | --short]
 //
-// FOLDER gets what was found as soak.csv and soak.md. --cycles multiplies the numbers of cycles, --short does
-// few and judges neither memory nor latency. Exits with status 1 when something grew, 2 when the program failed.
+// FOLDER gets what was found as soak.csv, soak.md, soak-light.svg and soak-dark.svg. --cycles multiplies the numbers of
+// cycles, --short does few and judges neither memory nor latency. Exits with status 1 when something grew, 2 when the
+// program failed.
 
 #include <algorithm>
 #include <charconv>
@@ -14,12 +15,15 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "report/SvgFile.h"
 #include "soak/Report.h"
 #include "soak/Soak.h"
+#include "soak/SoakChart.h"
 #include "support/Patience.h"
 
 namespace quorvel::soak {
@@ -68,6 +72,16 @@ void printEndOfLog(xtest::ProgramUnderTest& program)
                fmt::join(lines.last(std::min(lines.size(), mostLines)), "\n"), fmt::join(program.errorLines(), "\n"));
 }
 
+void writeFigures(const std::vector<Phase>& phases, Judging judging, const std::filesystem::path& folder)
+{
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "soak.csv") << csv(phases);
+    std::ofstream(folder / "soak.md") << markdown(phases, judging);
+    const x11::TextLayouts layouts("Inter, DejaVu Sans");
+    bench::writeSvg(folder / "soak-light.svg", soakChart(phases, bench::ChartPalette::light()), layouts);
+    bench::writeSvg(folder / "soak-dark.svg", soakChart(phases, bench::ChartPalette::dark()), layouts);
+}
+
 int run(const std::filesystem::path& program, const std::filesystem::path& folder, const Plan& plan)
 {
     SoakDesktop desktop(std::filesystem::absolute(program));
@@ -84,9 +98,7 @@ int run(const std::filesystem::path& program, const std::filesystem::path& folde
         throw xtest::HarnessError(
             fmt::format("the program ended with status {} and said: {}", status, fmt::join(complaints, "\n")));
     }
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "soak.csv") << csv(soak.phases());
-    std::ofstream(folder / "soak.md") << markdown(soak.phases(), plan.judging);
+    writeFigures(soak.phases(), plan.judging, folder);
     return soak.isSteady() ? 0 : 1;
 }
 
