@@ -21,6 +21,7 @@ debianPackages() {
         echo fonts-dejavu-core fonts-inter
         echo openbox metacity xfwm4 icewm fluxbox i3-wm kwin-x11 breeze
         echo picom xterm mousepad trayer adwaita-icon-theme
+        echo libc6-dbg # known leaks are told by the names of functions, some of which only this has
         ;;
     fuzz) echo clang-19 libclang-rt-19-dev ;;
     macos)
