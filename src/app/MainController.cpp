@@ -138,26 +138,26 @@ void MainController::handleAction(Action action, const ActionArguments& argument
 
 void MainController::toggleOverlay()
 {
-    if (isLabelling() && !modes.moveResizeElement) {
-        exitCurrentMode();
-        return;
+    if (!endMode()) {
+        showOverlay(std::nullopt, nullptr);
     }
-    if (modes.moveResizeElement || layoutOverlayMode.isShowing()) {
-        exitCurrentMode();
-    }
-    showOverlay(std::nullopt, nullptr);
 }
 
 void MainController::switchFocus()
 {
-    if (isLabelling() && !modes.moveResizeElement) {
-        exitCurrentMode();
-        return;
+    if (!endMode()) {
+        focusSwitcherMode.start();
     }
-    if (modes.moveResizeElement || layoutOverlayMode.isShowing()) {
+}
+
+// Ends what is up. True if that was letters on the screen, which is all that a hot key of theirs does then.
+bool MainController::endMode()
+{
+    const bool wasLabelling = isLabelling() && !modes.moveResizeElement;
+    if (wasLabelling || modes.moveResizeElement || layoutOverlayMode.isShowing()) {
         exitCurrentMode();
     }
-    focusSwitcherMode.start();
+    return wasLabelling;
 }
 
 void MainController::showStepped(const ActionArguments& arguments)

@@ -82,6 +82,7 @@ private:
     ModeEnvironment modeEnvironment();
     void toggleOverlay();
     void switchFocus();
+    bool endMode();
     void showStepped(const ActionArguments& arguments);
     void jumpToLayout(const ActionArguments& arguments);
     void moveClientWindow(const ActionArguments& arguments);

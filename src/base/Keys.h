@@ -52,9 +52,8 @@ constexpr std::uint32_t hotKeyModifiersOf(std::uint64_t flags)
 // One key-down as a platform reports it.
 struct KeyEvent {
     KeyCode keyCode = 0;
-    std::string characters; // what the key types in the current keyboard layout with the held modifiers; may be empty
-    std::uint64_t flags =
-        0; // eventFlags of the modifiers a person holds, without locks and what belongs to a key itself
+    std::string characters;  // what the key types in the current keyboard layout with the held modifiers; may be empty
+    std::uint64_t flags = 0; // eventFlags of the modifiers a person holds; locks and what belongs to a key never occur
 };
 
 } // namespace quorvel

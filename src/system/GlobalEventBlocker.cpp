@@ -70,12 +70,6 @@ void GlobalEventBlocker::setBlockedKeyCodes(KeyCodeSet newKeyCodes)
         return;
     }
     keyCodes = std::move(newKeyCodes);
-    fastKeyCodes.reset();
-    for (const auto keyCode : keyCodes) {
-        if (keyCode >= 0 && keyCode < static_cast<KeyCode>(fastKeyCodes.size())) {
-            fastKeyCodes.set(static_cast<std::size_t>(keyCode));
-        }
-    }
     announceBlockedKeys();
 }
 
@@ -110,7 +104,7 @@ void GlobalEventBlocker::showKeyCapturePanel()
         const auto contentRect = mainScreen ? mainScreen->frame : ScreenRect{0.0, 0.0, 100.0, 100.0};
         keyCapturePanel =
             std::make_unique<KeyCapturePanel>(platform, contentRect, weakly.guard([this](const CapturedKey& key) {
-                if (blocks(key.keyCode)) {
+                if (keyCodes.contains(key.keyCode)) {
                     keys.deliver(key);
                 }
             }));
@@ -167,7 +161,7 @@ TapDecision GlobalEventBlocker::decide(const TapEvent& event)
         return TapDecision::pass;
     }
     const auto keyCode = event.keyCode();
-    if (!blocks(keyCode)) {
+    if (!keyCodes.contains(keyCode)) {
         return TapDecision::pass;
     }
     auto key = event.keyEvent().transform(capturedKeyFrom).value_or(CapturedKey{});
@@ -175,12 +169,6 @@ TapDecision GlobalEventBlocker::decide(const TapEvent& event)
     // Later, so that the handler's work never delays the decision: the system turns slow taps off.
     keys.deliverLater(std::move(key));
     return TapDecision::drop;
-}
-
-bool GlobalEventBlocker::blocks(KeyCode keyCode) const
-{
-    const bool isFast = keyCode >= 0 && keyCode < static_cast<KeyCode>(fastKeyCodes.size());
-    return isFast ? fastKeyCodes[static_cast<std::size_t>(keyCode)] : keyCodes.contains(keyCode);
 }
 
 void GlobalEventBlocker::handle(const CapturedKey& key) const

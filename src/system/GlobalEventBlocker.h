@@ -1,6 +1,5 @@
 #pragma once
 
-#include <bitset>
 #include <memory>
 #include <optional>
 
@@ -64,7 +63,6 @@ public:
 
 private:
     TapDecision decide(const TapEvent& event);
-    bool blocks(KeyCode keyCode) const;
     void handle(const CapturedKey& key) const;
     void announceBlockedKeys();
     void takeFocus();
@@ -75,7 +73,6 @@ private:
     bool hasRunLoopSource = false;
     bool isTapRefusedKeys = false;
     KeyCodeSet keyCodes;
-    std::bitset<256> fastKeyCodes; // the part of keyCodes that keyboards have; the tap decides by it in no time
     std::unique_ptr<KeyCapturePanel> keyCapturePanel;
     std::optional<ProcessId> previousApp;
     CapturedKeyHandler onBlockKey;

@@ -60,7 +60,7 @@ void OverlayStage::remove(OverlaySurface& surface)
     std::erase(scheduled, &surface);
 }
 
-void OverlayStage::dispose(const SpareWindows::Window& window, Subscription events, Reuse reuse)
+void OverlayStage::dispose(xcb_window_t window, Subscription events, Reuse reuse)
 {
     if (disposed.empty()) {
         precedence.afterwards(weakGuard.guard([this] { takeAwayDisposed(); }));
@@ -72,10 +72,10 @@ void OverlayStage::takeAwayDisposed()
 {
     for (auto& [window, events, reuse] : std::exchange(disposed, {})) {
         events.reset();
-        if (reuse == Reuse::possible && window.blending == blending()) {
+        if (reuse == Reuse::possible) {
             spareWindows.keep(window);
         } else {
-            xcb_destroy_window(connection.xcb(), window.id);
+            xcb_destroy_window(connection.xcb(), window);
         }
     }
 }
@@ -128,6 +128,7 @@ PaintPlan OverlayStage::plan(const DrawList& content, Size viewSize, PixelSize w
 
 void OverlayStage::invalidate()
 {
+    takeAwayDisposed(); // which blend as the others did
     spareWindows.destroyAll();
     for (auto* const surface : surfaces) {
         surface->invalidate();

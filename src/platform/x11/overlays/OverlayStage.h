@@ -40,13 +40,14 @@ public:
     void add(OverlaySurface& surface);
     void remove(OverlaySurface& surface);
 
-    // Takes a closed window away, after what a person waits for and before anything new is shown. `events` are those
-    // selected on it. One that is interchangeable with others may be shown again.
-    enum class Reuse { possible, impossible };
-    void dispose(const SpareWindows::Window& window, Subscription events, Reuse reuse);
+    enum class Reuse { possible, impossible }; // possible: lets clicks through and blends as all do at present
 
-    // A window that lets clicks through, lies anywhere and is not shown, if there is one to spare.
-    std::optional<SpareWindows::Window> takeSpareWindow() { return spareWindows.take(blending()); }
+    // Takes a closed window away, after what a person waits for and before anything new is shown. `events` are those
+    // selected on it.
+    void dispose(xcb_window_t window, Subscription events, Reuse reuse);
+
+    // A window to be shown again, if there is one; it lies anywhere.
+    std::optional<xcb_window_t> takeSpareWindow() { return spareWindows.take(); }
 
     // Has the surface commit itself before the main loop waits the next time.
     void schedule(OverlaySurface& surface);
@@ -65,7 +66,7 @@ public:
 
 private:
     struct Disposed {
-        SpareWindows::Window window;
+        xcb_window_t window;
         Subscription events;
         Reuse reuse;
     };

@@ -65,8 +65,9 @@ void OverlaySurface::giveUpWindow()
 {
     isMapped = false;
     stage.stacking.remove(xWindow);
-    stage.dispose({std::exchange(xWindow, XCB_WINDOW_NONE), windowBlending}, std::move(events),
-                  isInterchangeable() ? OverlayStage::Reuse::possible : OverlayStage::Reuse::impossible);
+    const bool isReusable = isInterchangeable() && windowBlending == stage.blending();
+    stage.dispose(std::exchange(xWindow, XCB_WINDOW_NONE), std::move(events),
+                  isReusable ? OverlayStage::Reuse::possible : OverlayStage::Reuse::impossible);
     isCut = false;
     isPlanDue = true;
 }
@@ -147,10 +148,10 @@ bool OverlaySurface::isInterchangeable() const
 
 OverlayStacking::Age OverlaySurface::obtainWindow()
 {
+    windowBlending = stage.blending();
     const auto spare = isInterchangeable() ? stage.takeSpareWindow() : std::nullopt;
     if (spare) {
-        xWindow = spare->id;
-        windowBlending = spare->blending;
+        xWindow = *spare;
         stage.graphics.place(xWindow, rootRect);
     } else {
         createWindow();
@@ -161,7 +162,6 @@ OverlayStacking::Age OverlaySurface::obtainWindow()
 
 void OverlaySurface::createWindow()
 {
-    windowBlending = stage.blending();
     xWindow = stage.graphics.createWindow(rootRect, windowBlending);
     if (description.ignoresMouseEvents) {
         stage.graphics.ignoreMouse(xWindow);

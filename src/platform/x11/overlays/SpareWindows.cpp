@@ -1,37 +1,35 @@
 #include "platform/x11/overlays/SpareWindows.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/x11/Connection.h"
 
 namespace quorvel::x11 {
 
-void SpareWindows::keep(const Window& window)
+void SpareWindows::keep(xcb_window_t window)
 {
     if (windows.size() == mostWindows) {
-        xcb_destroy_window(connection.xcb(), window.id);
+        xcb_destroy_window(connection.xcb(), window);
         return;
     }
-    xcb_unmap_window(connection.xcb(), window.id);
+    xcb_unmap_window(connection.xcb(), window);
     windows.push_back(window);
 }
 
-std::optional<SpareWindows::Window> SpareWindows::take(Blending blending)
+std::optional<xcb_window_t> SpareWindows::take()
 {
-    const auto found = std::ranges::find(windows, blending, &Window::blending);
-    if (found == windows.end()) {
+    if (windows.empty()) {
         return std::nullopt;
     }
-    const auto window = *found;
-    windows.erase(found);
+    const auto window = windows.front();
+    windows.erase(windows.begin());
     return window;
 }
 
 void SpareWindows::destroyAll()
 {
-    for (const auto& window : std::exchange(windows, {})) {
-        xcb_destroy_window(connection.xcb(), window.id);
+    for (const auto window : std::exchange(windows, {})) {
+        xcb_destroy_window(connection.xcb(), window);
     }
 }
 
